@@ -1,0 +1,29 @@
+#pragma once
+
+// Rows of item views, in a fixed order from the left: decoration, check indicator, text. Any other position
+// of the decoration stops the process.
+
+#include "Style/VantraStyleHelper.h"
+
+class QStyleOption;
+class VantraStyleOptionViewItem;
+
+class VantraStyleHelperItemView : public VantraStyleHelper
+{
+public:
+    using VantraStyleHelper::VantraStyleHelper;
+
+    void drawItem(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
+    void drawPanel(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
+    void drawBranch(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
+    void drawDropIndicator(const QStyleOption &option, QPainter *painter, const QWidget *widget) const;
+    QRect subElementRect(const VantraStyleOptionViewItem &option, QStyle::SubElement element,
+                         const QWidget *widget) const;
+    QSize size(const VantraStyleOptionViewItem &option, const QWidget *widget) const;
+
+private:
+    void drawCheck(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
+    void drawDecoration(const VantraStyleOptionViewItem &option, QPainter *painter,
+                        const QWidget *widget) const;
+    void drawText(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
+};

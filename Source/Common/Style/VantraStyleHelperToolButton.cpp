@@ -1,0 +1,132 @@
+#include "Style/VantraStyleHelperToolButton.h"
+
+#include "StyleOptions/VantraStyleOptionToolButton.h"
+#include "Theme/VantraStyleTheme.h"
+
+namespace {
+
+constexpr double kHoverGrowth = 1.25;
+
+// Each side is rounded half away from zero, as QSize multiplies.
+QSize enlarged(const QSize &inSize)
+{
+    return inSize * kHoverGrowth;
+}
+
+VantraStyleHelper::Content contentOf(const VantraStyleOptionToolButton &option, const QSize &iconSize,
+                                     int spacing)
+{
+    return {option.icon,
+            iconSize,
+            option.text,
+            option.fontMetrics,
+            option.arrowType,
+            spacing,
+            option.toolButtonStyle == Qt::ToolButtonIconOnly,
+            option.toolButtonStyle == Qt::ToolButtonTextOnly,
+            option.toolButtonStyle == Qt::ToolButtonTextUnderIcon};
+}
+
+} // namespace
+
+void VantraStyleHelperToolButton::drawComplex(const VantraStyleOptionToolButton &option, QPainter *painter,
+                                              const QWidget *widget) const
+{
+    if (!option.subControls.testFlag(QStyle::SC_ToolButton)) {
+        return;
+    }
+    VantraStyleOptionToolButton button = option;
+    mTheme->adjustFontAndColor(&button, widget, false);
+    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &button, painter, widget);
+    mStyle->drawControl(QStyle::CE_ToolButtonLabel, &button, painter, widget);
+}
+
+void VantraStyleHelperToolButton::drawPanel(const VantraStyleOptionToolButton &option, QPainter *painter,
+                                            const QWidget *) const
+{
+    if (option.backgroundStyle != VantraToolButton::BackgroundStyleToolButton) {
+        const QBrush brush = mTheme->toolButtonBackgroundBrush(&option);
+        if (brush.style() != Qt::NoBrush) {
+            painter->setPen(Qt::NoPen);
+            painter->setBrush(brush);
+            drawRoundedBackground(painter, option.rect, mTheme->toolButtonRadii(&option));
+        }
+        return;
+    }
+    // A plain icon button shows a small plate while it is checked.
+    if (!option.icon.isNull() && option.buttonStyle == VantraToolButton::IconStyle &&
+        option.state.testFlag(QStyle::State_On)) {
+        const VantraPainterSaver saver(painter);
+        const int radius = mTheme->toolButtonIconBackgroundRadius(&option);
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setBrush(mTheme->toolButtonIconBackgroundBrush(&option));
+        painter->setPen(Qt::NoPen);
+        painter->drawRoundedRect(option.rect, radius, radius, Qt::AbsoluteSize);
+    }
+}
+
+void VantraStyleHelperToolButton::drawLabel(const VantraStyleOptionToolButton &option, QPainter *painter,
+                                            const QWidget *) const
+{
+    const VantraCornerRadii radii = mTheme->toolButtonRadii(&option);
+    const int pill = option.toolButtonStyle == Qt::ToolButtonIconOnly ? 0 : radii.topLeft();
+    const QMargins margins = paddingWithRadii(mTheme->toolButtonPadding(&option), pill, pill);
+    const QRect rect = option.rect.adjusted(margins.left(), 0, -margins.right(), 0);
+    const bool grows = option.enlargeIconOnHover && option.state.testFlag(QStyle::State_MouseOver);
+
+    const VantraPainterSaver saver(painter);
+    painter->setFont(option.font);
+    const Content content = contentOf(option, grows ? enlarged(option.iconSize) : option.iconSize,
+                                      static_cast<int>(mTheme->toolButtonSpacing(&option)));
+    const Look look{option.iconTinting, Qt::AlignCenter, option.state, option.palette,
+                    option.alternateTintRole};
+    if (!drawIconTextArrow(content, look, rect, painter)) {
+        drawPlaceholder(option, rect, painter);
+    }
+}
+
+void VantraStyleHelperToolButton::drawPlaceholder(const VantraStyleOptionToolButton &option,
+                                                  const QRect &rect, QPainter *painter) const
+{
+    const VantraPainterSaver saver(painter);
+    const int radius = mTheme->toolButtonIconBackgroundRadius(&option);
+    const QBrush brush = mTheme->toolButtonIconBackgroundBrush(&option);
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (option.state & QStyle::State_On) {
+        painter->setBrush(brush);
+        painter->setPen(Qt::NoPen);
+        painter->drawRoundedRect(rect, radius, radius, Qt::AbsoluteSize);
+    } else {
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(QPen(QBrush(brush.color()), 0.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius,
+                                 Qt::AbsoluteSize);
+    }
+}
+
+QSize VantraStyleHelperToolButton::size(const VantraStyleOptionToolButton &option,
+                                        const QWidget *widget) const
+{
+    VantraStyleOptionToolButton button = option;
+    mTheme->adjustFontAndColor(&button, widget, true);
+    const QSize iconSize = option.enlargeIconOnHover ? enlarged(option.iconSize) : option.iconSize;
+    QSize size =
+        iconTextArrowSize(contentOf(button, iconSize, static_cast<int>(mTheme->toolButtonSpacing(&button))));
+    if (size.width() <= 0) {
+        size.setWidth(option.iconSize.width());
+    }
+    if (size.height() <= 0) {
+        size.setHeight(option.iconSize.height());
+    }
+    const QMargins padding = mTheme->toolButtonPadding(&button);
+    const QSize content = size;
+    size = content.grownBy(padding);
+    if (button.toolButtonStyle != Qt::ToolButtonIconOnly) {
+        // The pill of the size at hand, not of the widget's present rectangle.
+        button.rect = QRect(QPoint(0, 0), size);
+        const int pill = mTheme->toolButtonRadii(&button).topLeft();
+        size = content.grownBy(paddingWithRadii(padding, pill, pill));
+    }
+    // A tool button is never narrower than it is tall.
+    return size.expandedTo(QSize(size.height(), 0));
+}
