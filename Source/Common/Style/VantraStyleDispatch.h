@@ -8,20 +8,35 @@
 #include <QtCore/QRect>
 #include <QtCore/QSize>
 
+#include <optional>
+#include <type_traits>
+#include <utility>
+
 class QPainter;
 class QWidget;
 
 namespace VantraStyleDispatch {
 
-template <typename Helper, typename Record>
-bool paint(const Helper &helper, void (Helper::*member)(const Record &, QPainter *, const QWidget *) const,
+// A member that takes its record by plain reference gets one of its own to change.
+template <typename Option>
+decltype(auto) argument(VantraStyleOptionCast<std::remove_const_t<Option>> &ioCast)
+{
+    if constexpr (std::is_const_v<Option>) {
+        return *std::as_const(ioCast);
+    } else {
+        return ioCast.writable();
+    }
+}
+
+template <typename Helper, typename Option>
+bool paint(const Helper &helper, void (Helper::*member)(Option &, QPainter *, const QWidget *) const,
            const QStyleOption *option, QPainter *painter, const QWidget *widget)
 {
-    const VantraStyleOptionCast<Record> record(option);
-    if (record) {
-        (helper.*member)(*record, painter, widget);
+    VantraStyleOptionCast<std::remove_const_t<Option>> cast(option);
+    if (cast) {
+        (helper.*member)(argument<Option>(cast), painter, widget);
     }
-    return static_cast<bool>(record);
+    return static_cast<bool>(cast);
 }
 
 // Elements that take any option.
@@ -36,13 +51,12 @@ bool paint(const Helper &helper,
     return option != nullptr;
 }
 
-template <typename Helper, typename Record>
-std::optional<QSize> measure(const Helper &helper,
-                             QSize (Helper::*member)(const Record &, const QWidget *) const,
+template <typename Helper, typename Option>
+std::optional<QSize> measure(const Helper &helper, QSize (Helper::*member)(Option &, const QWidget *) const,
                              const QStyleOption *option, const QWidget *widget)
 {
-    const VantraStyleOptionCast<Record> record(option);
-    return record ? std::optional<QSize>((helper.*member)(*record, widget)) : std::nullopt;
+    VantraStyleOptionCast<std::remove_const_t<Option>> cast(option);
+    return cast ? std::optional<QSize>((helper.*member)(argument<Option>(cast), widget)) : std::nullopt;
 }
 
 template <typename Helper, typename Record, typename Part>
@@ -50,8 +64,8 @@ std::optional<QRect> place(const Helper &helper,
                            QRect (Helper::*member)(const Record &, Part, const QWidget *) const,
                            const QStyleOption *option, Part part, const QWidget *widget)
 {
-    const VantraStyleOptionCast<Record> record(option);
-    return record ? std::optional<QRect>((helper.*member)(*record, part, widget)) : std::nullopt;
+    const VantraStyleOptionCast<Record> cast(option);
+    return cast ? std::optional<QRect>((helper.*member)(*cast, part, widget)) : std::nullopt;
 }
 
 } // namespace VantraStyleDispatch

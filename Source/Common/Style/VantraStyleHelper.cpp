@@ -1,5 +1,6 @@
 #include "Style/VantraStyleHelper.h"
 
+#include "Style/VantraStamp.h"
 #include "Theme/VantraCornerRadii.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -86,18 +87,17 @@ void VantraStyleHelper::drawRoundedBackground(QPainter *painter, const QRect &re
     add(bottomLeft, BottomLeft);
     add(bottomRight, BottomRight);
 
-    const VantraPainterSaver saver(painter);
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
+    const QBrush brush = painter->brush();
     if (corners == 0) {
-        painter->drawRect(rect.adjusted(-3, -3, 3, 3));
+        painter->fillRect(rect.adjusted(-3, -3, 3, 3), brush);
         return;
     }
     for (const Growth &growth : kGrowths) {
         if (common && growth.corners == corners) {
-            painter->drawRoundedRect(rect.adjusted(growth.left * radius, growth.top * radius,
+            VantraStamp::fillRounded(painter,
+                                     rect.adjusted(growth.left * radius, growth.top * radius,
                                                    growth.right * radius, growth.bottom * radius),
-                                     radius, radius, Qt::AbsoluteSize);
+                                     radius, brush);
             return;
         }
     }

@@ -3,14 +3,13 @@
 #include "StyleOptions/VantraStyleOptionButton.h"
 #include "Theme/VantraStyleTheme.h"
 
-void VantraStyleHelperButton::drawButton(const VantraStyleOptionButton &option, QPainter *painter,
+void VantraStyleHelperButton::drawButton(VantraStyleOptionButton &option, QPainter *painter,
                                          const QWidget *widget) const
 {
-    VantraStyleOptionButton button = option;
-    mTheme->adjustFontAndColor(&button, widget, false);
-    mStyle->drawControl(QStyle::CE_PushButtonBevel, &button, painter, widget);
-    button.rect = mStyle->subElementRect(QStyle::SE_PushButtonContents, &button, widget);
-    mStyle->drawControl(QStyle::CE_PushButtonLabel, &button, painter, widget);
+    mTheme->adjustFontAndColor(&option, widget, false);
+    mStyle->drawControl(QStyle::CE_PushButtonBevel, &option, painter, widget);
+    option.rect = mStyle->subElementRect(QStyle::SE_PushButtonContents, &option, widget);
+    mStyle->drawControl(QStyle::CE_PushButtonLabel, &option, painter, widget);
 }
 
 void VantraStyleHelperButton::drawBevel(const VantraStyleOptionButton &option, QPainter *painter,
@@ -26,13 +25,14 @@ void VantraStyleHelperButton::drawBevel(const VantraStyleOptionButton &option, Q
     case VantraButton::NoCapTabButtonStyle: isTab = true; break;
     default: break;
     }
-    const VantraPainterSaver saver(painter);
+    const QBrush brush = painter->brush();
     if (isTab && option.state.testFlag(QStyle::State_On)) {
         drawCheckedTab(option, painter);
     } else {
         painter->setBrush(mTheme->buttonBackgroundBrush(&option));
         drawRoundedBackground(painter, option.rect, mTheme->buttonRadii(&option));
     }
+    painter->setBrush(brush);
 }
 
 // The bar of the button's own caps, with the checked tab standing on it.
@@ -58,7 +58,7 @@ void VantraStyleHelperButton::drawLabel(const VantraStyleOptionButton &option, Q
     const VantraCornerRadii radii = mTheme->buttonRadii(&option);
     const QMargins margins =
         paddingWithRadii(mTheme->buttonPadding(&option), radii.maxLeft(), radii.maxRight());
-    const VantraPainterSaver saver(painter);
+    const VantraLabelSaver saver(painter);
     painter->setFont(option.font);
     const Content content{option.icon,        option.iconSize, option.text,
                           option.fontMetrics, Qt::NoArrow,     mTheme->buttonSpacing(&option)};
@@ -67,12 +67,11 @@ void VantraStyleHelperButton::drawLabel(const VantraStyleOptionButton &option, Q
     drawIconTextArrow(content, look, option.rect.adjusted(margins.left(), 0, -margins.right(), 0), painter);
 }
 
-QSize VantraStyleHelperButton::size(const VantraStyleOptionButton &option, const QWidget *widget) const
+QSize VantraStyleHelperButton::size(VantraStyleOptionButton &option, const QWidget *widget) const
 {
-    VantraStyleOptionButton button = option;
-    mTheme->adjustFontAndColor(&button, widget, true);
-    const VantraCornerRadii radii = mTheme->buttonRadii(&button);
-    return iconTextSize(button.icon, button.iconSize, button.text, button.fontMetrics,
-                        mTheme->buttonSpacing(&button))
-        .grownBy(paddingWithRadii(mTheme->buttonPadding(&button), radii.maxLeft(), radii.maxRight()));
+    mTheme->adjustFontAndColor(&option, widget, true);
+    const VantraCornerRadii radii = mTheme->buttonRadii(&option);
+    return iconTextSize(option.icon, option.iconSize, option.text, option.fontMetrics,
+                        mTheme->buttonSpacing(&option))
+        .grownBy(paddingWithRadii(mTheme->buttonPadding(&option), radii.maxLeft(), radii.maxRight()));
 }

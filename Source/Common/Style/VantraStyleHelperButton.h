@@ -11,10 +11,10 @@ class VantraStyleHelperButton : public VantraStyleHelper
 public:
     using VantraStyleHelper::VantraStyleHelper;
 
-    void drawButton(const VantraStyleOptionButton &option, QPainter *painter, const QWidget *widget) const;
+    void drawButton(VantraStyleOptionButton &option, QPainter *painter, const QWidget *widget) const;
     void drawBevel(const VantraStyleOptionButton &option, QPainter *painter, const QWidget *widget) const;
     void drawLabel(const VantraStyleOptionButton &option, QPainter *painter, const QWidget *widget) const;
-    QSize size(const VantraStyleOptionButton &option, const QWidget *widget) const;
+    QSize size(VantraStyleOptionButton &option, const QWidget *widget) const;
 
 private:
     void drawCheckedTab(const VantraStyleOptionButton &option, QPainter *painter) const;

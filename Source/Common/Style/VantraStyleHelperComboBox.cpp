@@ -40,12 +40,11 @@ int rowWidth(const QStyle &inStyle, const QComboBox &inComboBox, const QModelInd
 
 } // namespace
 
-void VantraStyleHelperComboBox::drawComplex(const VantraStyleOptionComboBox &option, QPainter *painter,
+void VantraStyleHelperComboBox::drawComplex(VantraStyleOptionComboBox &option, QPainter *painter,
                                             const QWidget *widget) const
 {
-    VantraStyleOptionComboBox comboBox = option;
-    mTheme->adjustFontAndColor(&comboBox, widget, false);
-    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &comboBox, painter, widget);
+    mTheme->adjustFontAndColor(&option, widget, false);
+    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, widget);
 }
 
 void VantraStyleHelperComboBox::drawPanel(const VantraStyleOptionComboBox &option, QPainter *painter,
@@ -59,21 +58,20 @@ void VantraStyleHelperComboBox::drawPanel(const VantraStyleOptionComboBox &optio
     drawRoundedBackground(painter, option.rect, mTheme->comboBoxRadii(&option));
 }
 
-void VantraStyleHelperComboBox::drawLabel(const VantraStyleOptionComboBox &option, QPainter *painter,
+void VantraStyleHelperComboBox::drawLabel(VantraStyleOptionComboBox &option, QPainter *painter,
                                           const QWidget *widget) const
 {
-    VantraStyleOptionComboBox comboBox = option;
-    mTheme->adjustFontAndColor(&comboBox, widget, false);
-    const int pill = mTheme->comboBoxRadii(&comboBox).topLeft();
-    const QMargins margins = paddingWithRadii(mTheme->comboBoxPadding(&comboBox), pill, pill);
+    mTheme->adjustFontAndColor(&option, widget, false);
+    const int pill = mTheme->comboBoxRadii(&option).topLeft();
+    const QMargins margins = paddingWithRadii(mTheme->comboBoxPadding(&option), pill, pill);
 
-    const VantraPainterSaver saver(painter);
-    painter->setFont(comboBox.font);
-    const Content content{comboBox.currentIcon, comboBox.iconSize,
-                          comboBox.currentText, comboBox.fontMetrics,
-                          Qt::DownArrow,        static_cast<int>(mTheme->comboBoxSpacing(&comboBox))};
-    const Look look{VantraIconPalette::IconTintingNone, Qt::AlignCenter, comboBox.state, comboBox.palette};
-    drawIconTextArrow(content, look, comboBox.rect.adjusted(margins.left(), 0, -margins.right(), 0), painter);
+    const VantraLabelSaver saver(painter);
+    painter->setFont(option.font);
+    const Content content{option.currentIcon, option.iconSize,
+                          option.currentText, option.fontMetrics,
+                          Qt::DownArrow,      static_cast<int>(mTheme->comboBoxSpacing(&option))};
+    const Look look{VantraIconPalette::IconTintingNone, Qt::AlignCenter, option.state, option.palette};
+    drawIconTextArrow(content, look, option.rect.adjusted(margins.left(), 0, -margins.right(), 0), painter);
 }
 
 QSize VantraStyleHelperComboBox::size(const VantraStyleOptionComboBox &option, const QWidget *widget) const

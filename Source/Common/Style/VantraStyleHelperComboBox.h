@@ -11,9 +11,9 @@ class VantraStyleHelperComboBox : public VantraStyleHelper
 public:
     using VantraStyleHelper::VantraStyleHelper;
 
-    void drawComplex(const VantraStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const;
+    void drawComplex(VantraStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const;
     void drawPanel(const VantraStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const;
-    void drawLabel(const VantraStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const;
+    void drawLabel(VantraStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const;
     QSize size(const VantraStyleOptionComboBox &option, const QWidget *widget) const;
     QRect subControlRect(const VantraStyleOptionComboBox &option, QStyle::SubControl subControl,
                          const QWidget *widget) const;

@@ -38,11 +38,10 @@ QRect centredVertically(const QRect &inRect, int inLeft, int inWidth, int inHeig
 
 } // namespace
 
-void VantraStyleHelperItemView::drawItem(const VantraStyleOptionViewItem &option, QPainter *painter,
+void VantraStyleHelperItemView::drawItem(VantraStyleOptionViewItem &item, QPainter *painter,
                                          const QWidget *widget) const
 {
-    checkDecorationPosition(option);
-    VantraStyleOptionViewItem item = option;
+    checkDecorationPosition(item);
     mTheme->adjustFontAndColor(&item, widget, false);
     const VantraPainterSaver saver(painter);
     painter->setFont(item.font);
@@ -186,10 +185,9 @@ QRect VantraStyleHelperItemView::subElementRect(const VantraStyleOptionViewItem 
     return rest;
 }
 
-QSize VantraStyleHelperItemView::size(const VantraStyleOptionViewItem &option, const QWidget *widget) const
+QSize VantraStyleHelperItemView::size(VantraStyleOptionViewItem &item, const QWidget *widget) const
 {
-    checkDecorationPosition(option);
-    VantraStyleOptionViewItem item = option;
+    checkDecorationPosition(item);
     mTheme->adjustFontAndColor(&item, widget, true);
     const int spacing = mTheme->viewItemSpacing(&item);
     const int decorationWidth = item.decorationSize.width() + kDecorationGap + 1;

@@ -13,13 +13,13 @@ class VantraStyleHelperItemView : public VantraStyleHelper
 public:
     using VantraStyleHelper::VantraStyleHelper;
 
-    void drawItem(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
+    void drawItem(VantraStyleOptionViewItem &item, QPainter *painter, const QWidget *widget) const;
     void drawPanel(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
     void drawBranch(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;
     void drawDropIndicator(const QStyleOption &option, QPainter *painter, const QWidget *widget) const;
     QRect subElementRect(const VantraStyleOptionViewItem &option, QStyle::SubElement element,
                          const QWidget *widget) const;
-    QSize size(const VantraStyleOptionViewItem &option, const QWidget *widget) const;
+    QSize size(VantraStyleOptionViewItem &item, const QWidget *widget) const;
 
 private:
     void drawCheck(const VantraStyleOptionViewItem &option, QPainter *painter, const QWidget *widget) const;

@@ -18,14 +18,21 @@ void VantraStyleHelperLineEdit::drawPanel(const VantraStyleOptionLineEdit &optio
     if (brush.color().alpha() == 0) {
         return; // a bare field: filling it would only cost time
     }
+    const double radius = mTheme->lineEditLeftRadius(&option);
     const VantraPainterSaver saver(painter);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(brush);
+    if (brush.color().alpha() == 255) {
+        // What fill and outline of the path below come to, in one fill.
+        const double outerRadius = radius + kOutlineWidth * 0.25;
+        painter->setPen(Qt::NoPen);
+        painter->drawRoundedRect(option.rect, outerRadius, outerRadius, Qt::AbsoluteSize);
+        return;
+    }
     // The outline has the fill's colour: it rounds the shape off on its antialiased edge and shows no line.
     painter->setPen(QPen(QBrush(brush.color()), kOutlineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
 
     const double inset = kOutlineWidth * 0.5;
-    const double radius = mTheme->lineEditLeftRadius(&option);
     const double arc = qMax(2.0 * radius - inset, 0.0);
     const QRectF box = QRectF(option.rect).adjusted(inset, inset, -inset, -inset);
     const double x = box.x();

@@ -1,5 +1,6 @@
 #include "Style/VantraStyleHelperProgressBar.h"
 
+#include "Style/VantraStamp.h"
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtCore/QtMath>
@@ -11,15 +12,15 @@ VantraStyleHelperProgressBar::VantraStyleHelperProgressBar(QStyle *inStyle, cons
 {
 }
 
-void VantraStyleHelperProgressBar::drawBar(const QStyleOptionProgressBar &option, QPainter *painter,
+void VantraStyleHelperProgressBar::drawBar(QStyleOptionProgressBar &part, QPainter *painter,
                                            const QWidget *widget) const
 {
     const VantraPainterSaver saver(painter);
     painter->setRenderHint(QPainter::Antialiasing);
-    QStyleOptionProgressBar part = option;
-    part.rect = mStyle->subElementRect(QStyle::SE_ProgressBarGroove, &option, widget);
+    const QRect contents = mStyle->subElementRect(QStyle::SE_ProgressBarContents, &part, widget);
+    part.rect = mStyle->subElementRect(QStyle::SE_ProgressBarGroove, &part, widget);
     mStyle->drawControl(QStyle::CE_ProgressBarGroove, &part, painter, widget);
-    part.rect = mStyle->subElementRect(QStyle::SE_ProgressBarContents, &option, widget);
+    part.rect = contents;
     mStyle->drawControl(QStyle::CE_ProgressBarContents, &part, painter, widget);
 }
 
@@ -37,8 +38,12 @@ void VantraStyleHelperProgressBar::drawContents(const QStyleOptionProgressBar &o
     }
 }
 
-void VantraStyleHelperProgressBar::drawBarPart(const QRectF &rect, const QBrush &brush, QPainter *painter)
+void VantraStyleHelperProgressBar::drawBarPart(const QRect &rect, const QBrush &brush, QPainter *painter)
 {
+    if (qMin(rect.width(), rect.height()) % 2 == 0) {
+        VantraStamp::fillRounded(painter, rect, pillRadius(rect.size()), brush);
+        return;
+    }
     const double radius = qMin(rect.width(), rect.height()) * 0.5;
     painter->setBrush(brush);
     painter->setPen(Qt::NoPen);

@@ -19,14 +19,14 @@ public:
 
     VantraStyleHelperProgressBar(QStyle *inStyle, const VantraStyleTheme *inTheme, Clock inClock);
 
-    void drawBar(const QStyleOptionProgressBar &option, QPainter *painter, const QWidget *widget) const;
+    void drawBar(QStyleOptionProgressBar &part, QPainter *painter, const QWidget *widget) const;
     void drawGroove(const QStyleOptionProgressBar &option, QPainter *painter, const QWidget *widget) const;
     void drawContents(const QStyleOptionProgressBar &option, QPainter *painter, const QWidget *widget) const;
     QRect subElementRect(const QStyleOptionProgressBar &option, QStyle::SubElement element,
                          const QWidget *widget) const;
 
 private:
-    static void drawBarPart(const QRectF &rect, const QBrush &brush, QPainter *painter);
+    static void drawBarPart(const QRect &rect, const QBrush &brush, QPainter *painter);
     QRect contentsRect(const QStyleOptionProgressBar &option, const QRect &groove,
                        const QWidget *widget) const;
 

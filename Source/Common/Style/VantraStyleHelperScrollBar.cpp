@@ -1,16 +1,16 @@
 #include "Style/VantraStyleHelperScrollBar.h"
 
+#include "Style/VantraStamp.h"
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtWidgets/QStyleOption>
 
-void VantraStyleHelperScrollBar::drawComplex(const QStyleOptionSlider &option, QPainter *painter,
+void VantraStyleHelperScrollBar::drawComplex(QStyleOptionSlider &slider, QPainter *painter,
                                              const QWidget *widget) const
 {
-    if (!option.subControls.testFlag(QStyle::SC_ScrollBarSlider)) {
+    if (!slider.subControls.testFlag(QStyle::SC_ScrollBarSlider)) {
         return;
     }
-    QStyleOptionSlider slider = option;
     slider.rect = mStyle->subControlRect(QStyle::CC_ScrollBar, &slider, QStyle::SC_ScrollBarSlider, widget);
     if (!slider.rect.isEmpty()) {
         mStyle->drawControl(QStyle::CE_ScrollBarSlider, &slider, painter, widget);
@@ -28,12 +28,7 @@ void VantraStyleHelperScrollBar::drawSlider(const QStyleOptionSlider &option, QP
     } else {
         thumb.setLeft(thumb.left() + thumb.width() - visual);
     }
-    const int radius = pillRadius(thumb.size());
-    const VantraPainterSaver saver(painter);
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setBrush(mTheme->scrollBarBrush(&option));
-    painter->setPen(Qt::NoPen);
-    painter->drawRoundedRect(thumb, radius, radius, Qt::AbsoluteSize);
+    VantraStamp::fillRounded(painter, thumb, pillRadius(thumb.size()), mTheme->scrollBarBrush(&option));
 }
 
 QRect VantraStyleHelperScrollBar::subControlRect(const QStyleOptionSlider &option,

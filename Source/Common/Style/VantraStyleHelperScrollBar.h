@@ -11,7 +11,7 @@ class VantraStyleHelperScrollBar : public VantraStyleHelper
 public:
     using VantraStyleHelper::VantraStyleHelper;
 
-    void drawComplex(const QStyleOptionSlider &option, QPainter *painter, const QWidget *widget) const;
+    void drawComplex(QStyleOptionSlider &slider, QPainter *painter, const QWidget *widget) const;
     void drawSlider(const QStyleOptionSlider &option, QPainter *painter, const QWidget *widget) const;
 
     // Relative to the bar's own origin; null for the arrow buttons, which the design doesn't have.

@@ -11,8 +11,8 @@ class VantraStyleHelperTabBar : public VantraStyleHelper
 public:
     using VantraStyleHelper::VantraStyleHelper;
 
-    void drawTab(const VantraStyleOptionTab &option, QPainter *painter, const QWidget *widget) const;
+    void drawTab(VantraStyleOptionTab &option, QPainter *painter, const QWidget *widget) const;
     void drawShape(const VantraStyleOptionTab &option, QPainter *painter, const QWidget *widget) const;
     void drawLabel(const VantraStyleOptionTab &option, QPainter *painter, const QWidget *widget) const;
-    QSize size(const VantraStyleOptionTab &option, const QWidget *widget) const;
+    QSize size(VantraStyleOptionTab &option, const QWidget *widget) const;
 };

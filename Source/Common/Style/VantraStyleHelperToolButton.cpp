@@ -29,16 +29,15 @@ VantraStyleHelper::Content contentOf(const VantraStyleOptionToolButton &option, 
 
 } // namespace
 
-void VantraStyleHelperToolButton::drawComplex(const VantraStyleOptionToolButton &option, QPainter *painter,
+void VantraStyleHelperToolButton::drawComplex(VantraStyleOptionToolButton &option, QPainter *painter,
                                               const QWidget *widget) const
 {
     if (!option.subControls.testFlag(QStyle::SC_ToolButton)) {
         return;
     }
-    VantraStyleOptionToolButton button = option;
-    mTheme->adjustFontAndColor(&button, widget, false);
-    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &button, painter, widget);
-    mStyle->drawControl(QStyle::CE_ToolButtonLabel, &button, painter, widget);
+    mTheme->adjustFontAndColor(&option, widget, false);
+    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, widget);
+    mStyle->drawControl(QStyle::CE_ToolButtonLabel, &option, painter, widget);
 }
 
 void VantraStyleHelperToolButton::drawPanel(const VantraStyleOptionToolButton &option, QPainter *painter,
@@ -74,7 +73,7 @@ void VantraStyleHelperToolButton::drawLabel(const VantraStyleOptionToolButton &o
     const QRect rect = option.rect.adjusted(margins.left(), 0, -margins.right(), 0);
     const bool grows = option.enlargeIconOnHover && option.state.testFlag(QStyle::State_MouseOver);
 
-    const VantraPainterSaver saver(painter);
+    const VantraLabelSaver saver(painter);
     painter->setFont(option.font);
     const Content content = contentOf(option, grows ? enlarged(option.iconSize) : option.iconSize,
                                       static_cast<int>(mTheme->toolButtonSpacing(&option)));
@@ -104,27 +103,25 @@ void VantraStyleHelperToolButton::drawPlaceholder(const VantraStyleOptionToolBut
     }
 }
 
-QSize VantraStyleHelperToolButton::size(const VantraStyleOptionToolButton &option,
-                                        const QWidget *widget) const
+QSize VantraStyleHelperToolButton::size(VantraStyleOptionToolButton &option, const QWidget *widget) const
 {
-    VantraStyleOptionToolButton button = option;
-    mTheme->adjustFontAndColor(&button, widget, true);
+    mTheme->adjustFontAndColor(&option, widget, true);
     const QSize iconSize = option.enlargeIconOnHover ? enlarged(option.iconSize) : option.iconSize;
     QSize size =
-        iconTextArrowSize(contentOf(button, iconSize, static_cast<int>(mTheme->toolButtonSpacing(&button))));
+        iconTextArrowSize(contentOf(option, iconSize, static_cast<int>(mTheme->toolButtonSpacing(&option))));
     if (size.width() <= 0) {
         size.setWidth(option.iconSize.width());
     }
     if (size.height() <= 0) {
         size.setHeight(option.iconSize.height());
     }
-    const QMargins padding = mTheme->toolButtonPadding(&button);
+    const QMargins padding = mTheme->toolButtonPadding(&option);
     const QSize content = size;
     size = content.grownBy(padding);
-    if (button.toolButtonStyle != Qt::ToolButtonIconOnly) {
+    if (option.toolButtonStyle != Qt::ToolButtonIconOnly) {
         // The pill of the size at hand, not of the widget's present rectangle.
-        button.rect = QRect(QPoint(0, 0), size);
-        const int pill = mTheme->toolButtonRadii(&button).topLeft();
+        option.rect = QRect(QPoint(0, 0), size);
+        const int pill = mTheme->toolButtonRadii(&option).topLeft();
         size = content.grownBy(paddingWithRadii(padding, pill, pill));
     }
     // A tool button is never narrower than it is tall.

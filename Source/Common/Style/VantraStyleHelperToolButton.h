@@ -11,11 +11,10 @@ class VantraStyleHelperToolButton : public VantraStyleHelper
 public:
     using VantraStyleHelper::VantraStyleHelper;
 
-    void drawComplex(const VantraStyleOptionToolButton &option, QPainter *painter,
-                     const QWidget *widget) const;
+    void drawComplex(VantraStyleOptionToolButton &option, QPainter *painter, const QWidget *widget) const;
     void drawPanel(const VantraStyleOptionToolButton &option, QPainter *painter, const QWidget *widget) const;
     void drawLabel(const VantraStyleOptionToolButton &option, QPainter *painter, const QWidget *widget) const;
-    QSize size(const VantraStyleOptionToolButton &option, const QWidget *widget) const;
+    QSize size(VantraStyleOptionToolButton &option, const QWidget *widget) const;
 
 private:
     void drawPlaceholder(const VantraStyleOptionToolButton &option, const QRect &rect,

@@ -42,6 +42,15 @@ public:
     const Record *operator->() const { return mRecord; }
     const Record *get() const { return mRecord; }
 
+    // A record of the caller's own to change: the upgraded copy, or a copy of the incoming record.
+    Record &writable()
+    {
+        if (!mLocal) {
+            mRecord = &mLocal.emplace(*mRecord);
+        }
+        return *mLocal;
+    }
+
 private:
     template <typename QtOption>
     void upgrade(const QtOption &inOption)

@@ -28,7 +28,7 @@ const QBrush &missingBrush()
 } // namespace
 
 VantraColorPalette::VantraColorPalette(VantraColorPalette &&ioOther) noexcept
-    : mBrushes(std::exchange(ioOther.mBrushes, {}))
+    : mBrushes(std::exchange(ioOther.mBrushes, {})), mAdjustments(std::exchange(ioOther.mAdjustments, {}))
 {
 }
 
@@ -36,6 +36,7 @@ VantraColorPalette &VantraColorPalette::operator=(VantraColorPalette &&ioOther) 
 {
     if (this != &ioOther) {
         mBrushes = std::exchange(ioOther.mBrushes, {});
+        mAdjustments = std::exchange(ioOther.mAdjustments, {});
     }
     return *this;
 }
@@ -83,6 +84,7 @@ bool VantraColorPalette::contains(PaletteGroup inGroup, PaletteRole inRole) cons
 void VantraColorPalette::setBrush(PaletteGroup inGroup, PaletteRole inRole, const QBrush &inBrush)
 {
     mBrushes[Key{inGroup, inRole}] = inBrush;
+    mAdjustments.clear();
 }
 
 void VantraColorPalette::setColor(PaletteGroup inGroup, PaletteRole inRole, const QColor &inColor)
@@ -101,6 +103,19 @@ void VantraColorPalette::adjustPalette(PaletteGroup inGroup, PaletteRole inRole,
         }
     }
 
+    Adjustment &adjustment = mAdjustments[(inRole * 4 + inGroup) * QPalette::NColorRoles + inColorRole];
+    if (!adjustment.known || !ioPalette.isCopyOf(adjustment.input)) {
+        adjustment = {ioPalette, ioPalette, true};
+        writeColors(inGroup, inRole, inColorRole, adjustment.output);
+    }
+    const QPalette::ColorGroup current = ioPalette.currentColorGroup();
+    ioPalette = adjustment.output;
+    ioPalette.setCurrentColorGroup(current);
+}
+
+void VantraColorPalette::writeColors(PaletteGroup inGroup, PaletteRole inRole,
+                                     QPalette::ColorRole inColorRole, QPalette &ioPalette) const
+{
     const QBrush *active = inGroup == Highlighted ? find(Highlighted, inRole) : nullptr;
     if (active == nullptr) {
         active = find(Normal, inRole);
@@ -120,6 +135,7 @@ bool VantraColorPalette::loadConfig(const QJsonObject &inObject)
     if (!palette.isArray()) {
         return false;
     }
+    mAdjustments.clear();
     const QJsonObject aliases = inObject.value(kAliasesKey).toObject();
     const QJsonArray entries = palette.toArray();
     for (const QJsonValue value : entries) {

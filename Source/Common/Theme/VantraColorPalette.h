@@ -72,5 +72,18 @@ private:
                                                  const QString &inAlias) const;
     const QBrush *find(PaletteGroup inGroup, PaletteRole inRole) const;
 
+    // One adjustment of the same shared palette, as it recurs at every paint. Writing it anew would copy all
+    // its brushes.
+    struct Adjustment
+    {
+        QPalette input;
+        QPalette output;
+        bool known = false;
+    };
+
+    void writeColors(PaletteGroup inGroup, PaletteRole inRole, QPalette::ColorRole inColorRole,
+                     QPalette &ioPalette) const;
+
     std::unordered_map<Key, QBrush, KeyHash> mBrushes;
+    mutable std::unordered_map<int, Adjustment> mAdjustments; // emptied by each change of a brush
 };

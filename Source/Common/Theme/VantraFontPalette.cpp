@@ -10,31 +10,8 @@
 
 #include <utility>
 
-namespace {
-
-bool setSize(int inPointSize, const QWidget *inWidget, QFont &ioFont)
-{
-    if (inPointSize <= 0 || (inWidget != nullptr && ioFont.pointSize() != inWidget->font().pointSize())) {
-        return false;
-    }
-    ioFont.setPointSize(VantraFont::scaledPointSize(inPointSize));
-    return true;
-}
-
-bool setWeight(int inWeight, const QWidget *inWidget, QFont &ioFont)
-{
-    if (inWidget != nullptr && ioFont.weight() != inWidget->font().weight()) {
-        return false;
-    }
-    // A weight that the file doesn't give, or misspells, becomes the lightest, as Qt bounds it.
-    ioFont.setWeight(static_cast<QFont::Weight>(qMax(1, inWeight)));
-    return true;
-}
-
-} // namespace
-
 VantraFontPalette::VantraFontPalette(VantraFontPalette &&ioOther) noexcept
-    : mFonts(std::exchange(ioOther.mFonts, {}))
+    : mFonts(std::exchange(ioOther.mFonts, {})), mAdjustments(std::exchange(ioOther.mAdjustments, {}))
 {
 }
 
@@ -42,6 +19,7 @@ VantraFontPalette &VantraFontPalette::operator=(VantraFontPalette &&ioOther) noe
 {
     if (this != &ioOther) {
         mFonts = std::exchange(ioOther.mFonts, {});
+        mAdjustments = std::exchange(ioOther.mAdjustments, {});
     }
     return *this;
 }
@@ -61,6 +39,7 @@ bool VantraFontPalette::loadConfig(const QJsonObject &inObject)
     if (!palette.isArray()) {
         return false;
     }
+    mAdjustments.clear();
     static const QMetaEnum sWeights = QMetaEnum::fromType<QFont::Weight>();
     const QLatin1String weightKey("weight");
     const QJsonArray entries = palette.toArray();
@@ -81,6 +60,20 @@ bool VantraFontPalette::loadConfig(const QJsonObject &inObject)
     return true;
 }
 
+bool VantraFontPalette::applyEntry(const FontEntry &inEntry, bool inSizeFree, bool inWeightFree,
+                                   QFont &ioFont) const
+{
+    const bool setsSize = inSizeFree && inEntry.pointSize > 0;
+    if (setsSize) {
+        ioFont.setPointSize(VantraFont::scaledPointSize(inEntry.pointSize));
+    }
+    if (inWeightFree) {
+        // A weight that the file doesn't give, or misspells, becomes the lightest, as Qt bounds it.
+        ioFont.setWeight(static_cast<QFont::Weight>(qMax(1, inEntry.weight)));
+    }
+    return setsSize || inWeightFree;
+}
+
 bool VantraFontPalette::adjustFont(PaletteGroup inGroup, PaletteRole inRole, const QWidget *inWidget,
                                    QFont &ioFont, bool inUseLargestFont) const
 {
@@ -98,15 +91,23 @@ bool VantraFontPalette::adjustFont(PaletteGroup inGroup, PaletteRole inRole, con
     } else {
         return false;
     }
-    const bool sizeSet = setSize(wanted.pointSize, inWidget, ioFont);
-    const bool weightSet = setWeight(wanted.weight, inWidget, ioFont);
-    return sizeSet || weightSet;
+
+    const bool sizeFree = inWidget == nullptr || ioFont.pointSize() == inWidget->font().pointSize();
+    const bool weightFree = inWidget == nullptr || ioFont.weight() == inWidget->font().weight();
+    const int modifier = VantraFont::userSelectedFontPointSizeModifier();
+    Adjustment &known = mAdjustments[(inRole * 4 + inGroup) * 2 + (inUseLargestFont ? 1 : 0)];
+    if (!ioFont.isCopyOf(known.input) || ioFont.resolveMask() != known.input.resolveMask() ||
+        modifier != known.modifier || sizeFree != known.sizeFree || weightFree != known.weightFree) {
+        known = {ioFont, ioFont, modifier, sizeFree, weightFree, false};
+        known.changed = applyEntry(wanted, sizeFree, weightFree, known.output);
+    }
+    ioFont = known.output;
+    return known.changed;
 }
 
 void VantraFontPalette::applyFont(PaletteGroup inGroup, PaletteRole inRole, QFont &ioFont) const
 {
     if (const FontEntry *entry = find(inGroup, inRole)) {
-        setSize(entry->pointSize, nullptr, ioFont);
-        setWeight(entry->weight, nullptr, ioFont);
+        applyEntry(*entry, true, true, ioFont);
     }
 }

@@ -6,9 +6,10 @@
 
 #include "Theme/VantraPalette.h"
 
+#include <QtGui/QFont>
+
 #include <unordered_map>
 
-class QFont;
 class QJsonObject;
 class QWidget;
 
@@ -47,7 +48,22 @@ private:
         int weight = 0;    // QFont::Weight; below 1 the file gave none or an unknown word
     };
 
+    // One adjustment of the same shared font, as it recurs at every paint. Applying the entry anew would part
+    // the font from its engine, which then has to be looked up again.
+    struct Adjustment
+    {
+        QFont input;
+        QFont output;
+        int modifier = 0;
+        bool sizeFree = false;
+        bool weightFree = false;
+        bool changed = false;
+    };
+
     const FontEntry *find(PaletteGroup inGroup, PaletteRole inRole) const;
 
+    bool applyEntry(const FontEntry &inEntry, bool inSizeFree, bool inWeightFree, QFont &ioFont) const;
+
     std::unordered_map<Key, FontEntry, KeyHash> mFonts;
+    mutable std::unordered_map<int, Adjustment> mAdjustments; // emptied by each load
 };
