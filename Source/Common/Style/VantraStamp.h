@@ -16,6 +16,7 @@ namespace VantraStamp {
 
 enum class Shape : quint8 {
     Disc,
+    Handle,
     Ring,
     RingWithDot,
     RingWithHalfDot,

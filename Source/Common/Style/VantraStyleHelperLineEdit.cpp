@@ -22,9 +22,9 @@ void VantraStyleHelperLineEdit::drawPanel(const VantraStyleOptionLineEdit &optio
     const VantraPainterSaver saver(painter);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(brush);
-    if (brush.color().alpha() == 255) {
+    const double outerRadius = radius + kOutlineWidth * 0.25;
+    if (brush.color().alpha() == 255 && outerRadius * 2.0 <= option.rect.height()) {
         // What fill and outline of the path below come to, in one fill.
-        const double outerRadius = radius + kOutlineWidth * 0.25;
         painter->setPen(Qt::NoPen);
         painter->drawRoundedRect(option.rect, outerRadius, outerRadius, Qt::AbsoluteSize);
         return;

@@ -48,9 +48,19 @@ void VantraStyleHelperMenu::drawPanel(const VantraStyleOptionMenuItem &option, Q
     const VantraPainterSaver saver(painter);
     const int radius = mTheme->menuItemRadius(&option);
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(
-        QPen(QBrush(mTheme->menuItemLineColor(&option)), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    painter->setBrush(mTheme->menuItemBrush(&option));
+    const QColor line = mTheme->menuItemLineColor(&option);
+    const QBrush fill = mTheme->menuItemBrush(&option);
+    if (line.alpha() == 255 && fill.color().alpha() == 255) {
+        // What fill and outline of the shape below come to, in two nested fills.
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(QBrush(line));
+        painter->drawRoundedRect(option.rect, radius + 0.5, radius + 0.5);
+        painter->setBrush(fill);
+        painter->drawRoundedRect(option.rect.adjusted(1, 1, -1, -1), radius - 0.5, radius - 0.5);
+        return;
+    }
+    painter->setPen(QPen(QBrush(line), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter->setBrush(fill);
     painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 

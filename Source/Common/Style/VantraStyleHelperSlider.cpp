@@ -1,9 +1,9 @@
 #include "Style/VantraStyleHelperSlider.h"
 
+#include "Style/VantraStamp.h"
 #include "StyleOptions/VantraStyleOptionSlider.h"
 #include "Theme/VantraStyleTheme.h"
 
-#include <QtGui/QPainterPath>
 #include <QtWidgets/QWidget>
 
 namespace {
@@ -45,10 +45,11 @@ void VantraStyleHelperSlider::drawGroove(const VantraStyleOptionSlider &sliderOp
     const QRectF adjRect = grooveRect.adjusted(0.5, inset, -0.5, -inset);
     Q_ASSERT(adjRect.isValid() && !adjRect.isNull());
 
-    QPainterPath path;
-    path.addRoundedRect(adjRect, mTheme->grooveRadius(), mTheme->grooveRadius(), Qt::AbsoluteSize);
-    painter->setClipPath(path, Qt::ReplaceClip);
-    painter->drawRect(adjRect);
+    // The groove's round ends also bound the value span. Both are the rounded shape itself, the span through a
+    // rectangle of whole pixels: that comes to the same as a clip of the shape, and costs far less.
+    painter->setClipping(false);
+    const int radius = mTheme->grooveRadius();
+    painter->drawRoundedRect(adjRect, radius, radius, Qt::AbsoluteSize);
     if (option->gradientStops.isEmpty()) {
         drawValueSpan(*option, adjRect, painter);
     }
@@ -62,8 +63,12 @@ void VantraStyleHelperSlider::drawValueSpan(const VantraStyleOptionSlider &optio
                                                option.upsideDown);
     };
     const int anchor = positionOf(anchorOf(option));
+    const int value = positionOf(option.sliderValue);
+    const int radius = mTheme->grooveRadius();
+    painter->setClipRect(QRectF(anchor, groove.y(), value - anchor, groove.height()).normalized(),
+                         Qt::ReplaceClip);
     painter->setBrush(mTheme->sliderValueBrush(&option));
-    painter->drawRect(QRectF(anchor, groove.y(), positionOf(option.sliderValue) - anchor, groove.height()));
+    painter->drawRoundedRect(groove, radius, radius, Qt::AbsoluteSize);
 }
 
 void VantraStyleHelperSlider::drawHandle(const VantraStyleOptionSlider &option, QPainter *painter) const
@@ -73,15 +78,28 @@ void VantraStyleHelperSlider::drawHandle(const VantraStyleOptionSlider &option, 
     if (!option.subControls.testFlag(QStyle::SC_SliderHandle) || !handle.isValid()) {
         return;
     }
-    const QBrush brush = painter->brush();
-    const QPen pen = painter->pen();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(mTheme->sliderHandleBrush(&option));
     const QRectF adjRect = handle.adjusted(0.5, 0.5, -0.5, -0.5);
     Q_ASSERT(adjRect.isValid() && !adjRect.isNull());
+    const QBrush fill = mTheme->sliderHandleBrush(&option);
     const int radius = mTheme->handleRadius(enlarged(option));
-    painter->drawRoundedRect(adjRect, radius, radius, Qt::AbsoluteSize);
+    const auto paint = [&fill, radius](QPainter *target, const QRectF &rect) {
+        target->setRenderHint(QPainter::Antialiasing);
+        target->setPen(Qt::NoPen);
+        target->setBrush(fill);
+        target->drawRoundedRect(rect, radius, radius, Qt::AbsoluteSize);
+    };
+    if (VantraStamp::applies(painter)) {
+        const int size = qRound(handle.width());
+        const VantraStamp::Key key{VantraStamp::Shape::Handle, static_cast<quint8>(radius),
+                                   static_cast<quint16>(size), fill.color().rgba()};
+        painter->drawImage(handle.topLeft(), VantraStamp::picture(key, [&](QPainter *stamp) {
+            paint(stamp, QRectF(0.5, 0.5, size - 1.0, size - 1.0));
+        }));
+        return;
+    }
+    const QBrush brush = painter->brush();
+    const QPen pen = painter->pen();
+    paint(painter, adjRect);
     painter->setBrush(brush);
     painter->setPen(pen);
 }
