@@ -23,7 +23,7 @@ void VantraStyleHelperLineEdit::drawPanel(const VantraStyleOptionLineEdit &optio
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(brush);
     const double outerRadius = radius + kOutlineWidth * 0.25;
-    if (brush.color().alpha() == 255 && outerRadius * 2.0 <= option.rect.height()) {
+    if (brush.color().alpha() == 255 && outerRadius * 2.0 < option.rect.height()) {
         // What fill and outline of the path below come to, in one fill.
         painter->setPen(Qt::NoPen);
         painter->drawRoundedRect(option.rect, outerRadius, outerRadius, Qt::AbsoluteSize);
