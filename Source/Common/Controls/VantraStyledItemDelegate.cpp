@@ -5,7 +5,9 @@
 
 #include <QtWidgets/QApplication>
 
-VantraStyledItemDelegate::VantraStyledItemDelegate(QObject *inParent) : QStyledItemDelegate(inParent) {}
+VantraStyledItemDelegate::VantraStyledItemDelegate(QObject *inParent) : QStyledItemDelegate(inParent)
+{
+}
 
 VantraStyledItemDelegate::~VantraStyledItemDelegate() = default;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The delegate for item views in the house design: it hands the style a record with the tinting and the indent
-// that plain options lack. Subclasses set those in initStyleOption:
+// The delegate for item views in the house design: it hands the style a record with the tinting and the
+// indent that plain options lack. Subclasses set those in initStyleOption:
 //
 //     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
 //     {
@@ -28,7 +28,8 @@ public:
     explicit VantraStyledItemDelegate(QObject *inParent = nullptr);
     ~VantraStyledItemDelegate() override;
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
 
 protected:
     // Also called by the base class with plain options, for sizes: check the version before writing the

@@ -235,14 +235,14 @@ bool VantraStyleHelper::drawIconTextArrow(const Content &content, const Look &lo
     bool painted = false;
     if (!iconRect.isEmpty() && !pixmap.isNull()) {
         painter->setRenderHint(QPainter::SmoothPixmapTransform);
-        mStyle->drawItemPixmap(painter, iconRect, Qt::AlignCenter, pixmap);
+        style()->drawItemPixmap(painter, iconRect, Qt::AlignCenter, pixmap);
         painted = true;
     }
     if (!textRect.isEmpty() && content.hasText()) {
         // The size routines add 4 to a text, and so does its elision.
-        mStyle->drawItemText(painter, textRect, flags, look.palette, look.state & QStyle::State_Enabled,
-                             elided(content.text, content.metrics, textRect.width() + 4, flags),
-                             QPalette::ButtonText);
+        style()->drawItemText(painter, textRect, flags, look.palette, look.state & QStyle::State_Enabled,
+                              elided(content.text, content.metrics, textRect.width() + 4, flags),
+                              QPalette::ButtonText);
         painted = true;
     }
     if (!arrowRect.isEmpty()) {

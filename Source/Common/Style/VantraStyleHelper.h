@@ -3,8 +3,8 @@
 // What the painting families share: the rounded fill, the arrow, the tick, the crisp bottom line, and the
 // layout of an icon, a text and an arrow in one rectangle. All coordinates are logical pixels.
 //
-// A helper belongs to one style, lives as long as it, and has no state of its own. It calls back into the
-// style by its virtual operations, so that a further proxy can restyle any element.
+// A helper belongs to one style, lives as long as it, and has no state of its own. It calls back into
+// style(), the outermost proxy over its style, so that a further proxy can restyle any element.
 
 #include "Theme/VantraIconPalette.h"
 #include "Theme/VantraPalette.h"
@@ -137,6 +137,8 @@ protected:
     // The text cut to a width in logical pixels, or the text itself when it fits.
     static QString elided(const QString &text, const QFontMetrics &metrics, int width, int flags,
                           Qt::TextElideMode mode = Qt::ElideMiddle);
+
+    const QStyle *style() const { return mStyle->proxy(); }
 
     QStyle *const mStyle;
     const VantraStyleTheme *const mTheme;

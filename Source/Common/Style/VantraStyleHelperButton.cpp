@@ -7,9 +7,9 @@ void VantraStyleHelperButton::drawButton(VantraStyleOptionButton &option, QPaint
                                          const QWidget *widget) const
 {
     mTheme->adjustFontAndColor(&option, widget, false);
-    mStyle->drawControl(QStyle::CE_PushButtonBevel, &option, painter, widget);
-    option.rect = mStyle->subElementRect(QStyle::SE_PushButtonContents, &option, widget);
-    mStyle->drawControl(QStyle::CE_PushButtonLabel, &option, painter, widget);
+    style()->drawControl(QStyle::CE_PushButtonBevel, &option, painter, widget);
+    option.rect = style()->subElementRect(QStyle::SE_PushButtonContents, &option, widget);
+    style()->drawControl(QStyle::CE_PushButtonLabel, &option, painter, widget);
 }
 
 void VantraStyleHelperButton::drawBevel(const VantraStyleOptionButton &option, QPainter *painter,

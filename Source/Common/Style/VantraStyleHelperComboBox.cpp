@@ -44,7 +44,7 @@ void VantraStyleHelperComboBox::drawComplex(VantraStyleOptionComboBox &option, Q
                                             const QWidget *widget) const
 {
     mTheme->adjustFontAndColor(&option, widget, false);
-    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, widget);
+    style()->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, widget);
 }
 
 void VantraStyleHelperComboBox::drawPanel(const VantraStyleOptionComboBox &option, QPainter *painter,
@@ -128,7 +128,7 @@ QRect VantraStyleHelperComboBox::popupRect(const VantraStyleOptionComboBox &opti
     const int rows = comboBox->model()->rowCount(root);
     for (int row = 0; row < rows; ++row) {
         const QModelIndex index = comboBox->model()->index(row, comboBox->modelColumn(), root);
-        widest = qMax(widest, scrollBarWidth + rowWidth(*mStyle, *comboBox, index, iconWidth));
+        widest = qMax(widest, scrollBarWidth + rowWidth(*style(), *comboBox, index, iconWidth));
     }
     rect.setWidth(qMax(rect.width(), widest));
     return rect;

@@ -25,6 +25,6 @@ void VantraStyleHelperGroupBox::drawFrame(const VantraStyleOptionFrame &option,
     painter->drawRoundedRect(groupBox.rect, kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
     painter->setBrush(mTheme->groupBoxContentsBrush(&groupBox));
     const QRect contents =
-        mStyle->subControlRect(QStyle::CC_GroupBox, &groupBox, QStyle::SC_GroupBoxContents, widget);
+        style()->subControlRect(QStyle::CC_GroupBox, &groupBox, QStyle::SC_GroupBoxContents, widget);
     painter->drawRoundedRect(contents, kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
 }

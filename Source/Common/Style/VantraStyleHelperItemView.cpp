@@ -46,7 +46,7 @@ void VantraStyleHelperItemView::drawItem(VantraStyleOptionViewItem &item, QPaint
     const VantraPainterSaver saver(painter);
     painter->setFont(item.font);
     painter->setClipRect(item.rect, Qt::ReplaceClip);
-    mStyle->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, widget);
+    style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, widget);
     if (hasCheck(item)) {
         drawCheck(item, painter, widget);
     }
@@ -61,7 +61,7 @@ void VantraStyleHelperItemView::drawItem(VantraStyleOptionViewItem &item, QPaint
 void VantraStyleHelperItemView::drawCheck(const VantraStyleOptionViewItem &option, QPainter *painter,
                                           const QWidget *widget) const
 {
-    const QRect rect = mStyle->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, widget);
+    const QRect rect = style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, widget);
     if (qobject_cast<const QListView *>(widget) != nullptr) {
         // A checked row of a list shows a tick without a ring.
         if (option.checkState == Qt::Checked) {
@@ -77,13 +77,13 @@ void VantraStyleHelperItemView::drawCheck(const VantraStyleOptionViewItem &optio
     case Qt::PartiallyChecked: check.state |= QStyle::State_NoChange; break;
     case Qt::Checked: check.state |= QStyle::State_On; break;
     }
-    mStyle->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &check, painter, widget);
+    style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &check, painter, widget);
 }
 
 void VantraStyleHelperItemView::drawDecoration(const VantraStyleOptionViewItem &option, QPainter *painter,
                                                const QWidget *widget) const
 {
-    const QRect rect = mStyle->subElementRect(QStyle::SE_ItemViewItemDecoration, &option, widget);
+    const QRect rect = style()->subElementRect(QStyle::SE_ItemViewItemDecoration, &option, widget);
     const QStyle::State state = option.state;
     const QIcon::Mode mode = !(state & QStyle::State_Enabled) ? QIcon::Disabled
                              : state & QStyle::State_Selected ? QIcon::Selected
@@ -95,13 +95,13 @@ void VantraStyleHelperItemView::drawDecoration(const VantraStyleOptionViewItem &
                              state & QStyle::State_Open ? QIcon::On : QIcon::Off, option.iconTinting,
                              option.palette.color(group, QPalette::Text),
                              mTheme->colorPalette().color(VantraPalette::Normal, VantraPalette::Accent));
-    mStyle->drawItemPixmap(painter, rect, static_cast<int>(option.decorationAlignment.toInt()), pixmap);
+    style()->drawItemPixmap(painter, rect, static_cast<int>(option.decorationAlignment.toInt()), pixmap);
 }
 
 void VantraStyleHelperItemView::drawText(const VantraStyleOptionViewItem &option, QPainter *painter,
                                          const QWidget *widget) const
 {
-    const QRect rect = mStyle->subElementRect(QStyle::SE_ItemViewItemText, &option, widget);
+    const QRect rect = style()->subElementRect(QStyle::SE_ItemViewItemText, &option, widget);
     const QStyle::State state = option.state;
     const bool strong = enabledOrSelected(state);
     const QPalette::ColorGroup group = !strong                        ? QPalette::Disabled
@@ -117,8 +117,8 @@ void VantraStyleHelperItemView::drawText(const VantraStyleOptionViewItem &option
     const int alignment = static_cast<int>(option.displayAlignment.toInt());
     const QString text =
         elided(option.text, option.fontMetrics, rect.width() + 4, alignment, option.textElideMode);
-    mStyle->drawItemText(painter, rect, alignment, option.palette, state & QStyle::State_Enabled, text,
-                         QPalette::Text);
+    style()->drawItemText(painter, rect, alignment, option.palette, state & QStyle::State_Enabled, text,
+                          QPalette::Text);
 }
 
 void VantraStyleHelperItemView::drawPanel(const VantraStyleOptionViewItem &option, QPainter *painter,
@@ -141,9 +141,9 @@ void VantraStyleHelperItemView::drawBranch(const VantraStyleOptionViewItem &opti
 {
     checkDecorationPosition(option);
     if (option.state & QStyle::State_Children) {
-        mStyle->drawPrimitive(option.state & QStyle::State_Open ? QStyle::PE_IndicatorArrowDown
-                                                                : QStyle::PE_IndicatorArrowRight,
-                              &option, painter, widget);
+        style()->drawPrimitive(option.state & QStyle::State_Open ? QStyle::PE_IndicatorArrowDown
+                                                                 : QStyle::PE_IndicatorArrowRight,
+                               &option, painter, widget);
     }
 }
 
@@ -171,8 +171,8 @@ QRect VantraStyleHelperItemView::subElementRect(const VantraStyleOptionViewItem 
     }
     if (hasCheck(option)) {
         check = centredVertically(rest, rest.left() + (decoration.isNull() ? 0 : spacing),
-                                  mStyle->pixelMetric(QStyle::PM_IndicatorWidth, &option, widget),
-                                  mStyle->pixelMetric(QStyle::PM_IndicatorHeight, &option, widget));
+                                  style()->pixelMetric(QStyle::PM_IndicatorWidth, &option, widget),
+                                  style()->pixelMetric(QStyle::PM_IndicatorHeight, &option, widget));
         rest.setLeft(check.right());
     }
     switch (element) {
@@ -200,8 +200,8 @@ QSize VantraStyleHelperItemView::size(VantraStyleOptionViewItem &item, const QWi
         append(decorationWidth, item.decorationSize.height());
     }
     if (hasCheck(item)) {
-        append(mStyle->pixelMetric(QStyle::PM_IndicatorWidth, &item, widget),
-               mStyle->pixelMetric(QStyle::PM_IndicatorHeight, &item, widget));
+        append(style()->pixelMetric(QStyle::PM_IndicatorWidth, &item, widget),
+               style()->pixelMetric(QStyle::PM_IndicatorHeight, &item, widget));
     }
     if (!item.text.isEmpty()) {
         const QSize text = item.fontMetrics.size(static_cast<int>(item.displayAlignment.toInt()), item.text);

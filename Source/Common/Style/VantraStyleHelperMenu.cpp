@@ -99,7 +99,7 @@ void VantraStyleHelperMenu::drawItem(const VantraStyleOptionMenuItem &option, QP
 
     int flags =
         Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft;
-    if (mStyle->styleHint(QStyle::SH_UnderlineShortcut, &item, widget) == 0) {
+    if (style()->styleHint(QStyle::SH_UnderlineShortcut, &item, widget) == 0) {
         flags |= Qt::TextHideMnemonic;
     }
     painter->setFont(item.font);
@@ -112,7 +112,7 @@ void VantraStyleHelperMenu::drawItem(const VantraStyleOptionMenuItem &option, QP
     }
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {
         item.rect = column.arrow;
-        mStyle->drawPrimitive(QStyle::PE_IndicatorArrowRight, &item, painter, widget);
+        style()->drawPrimitive(QStyle::PE_IndicatorArrowRight, &item, painter, widget);
     }
 }
 
@@ -128,7 +128,7 @@ void VantraStyleHelperMenu::drawSeparator(const VantraStyleOptionMenuItem &optio
 
 int VantraStyleHelperMenu::iconExtent(const VantraStyleOptionMenuItem &option, const QWidget *widget) const
 {
-    return qMax(mStyle->pixelMetric(QStyle::PM_SmallIconSize, &option, widget), option.maxIconWidth);
+    return qMax(style()->pixelMetric(QStyle::PM_SmallIconSize, &option, widget), option.maxIconWidth);
 }
 
 VantraStyleHelperMenu::Columns VantraStyleHelperMenu::columns(const VantraStyleOptionMenuItem &option,
@@ -202,7 +202,7 @@ void VantraStyleHelperMenu::drawTick(const VantraStyleOptionMenuItem &option, co
     } else {
         tick.state |= QStyle::State_Off;
     }
-    mStyle->drawPrimitive(QStyle::PE_IndicatorMenuCheckMark, &tick, painter, widget);
+    style()->drawPrimitive(QStyle::PE_IndicatorMenuCheckMark, &tick, painter, widget);
 }
 
 QSize VantraStyleHelperMenu::size(const VantraStyleOptionMenuItem &option, const QWidget *widget) const

@@ -17,11 +17,11 @@ void VantraStyleHelperProgressBar::drawBar(QStyleOptionProgressBar &part, QPaint
 {
     const VantraPainterSaver saver(painter);
     painter->setRenderHint(QPainter::Antialiasing);
-    const QRect contents = mStyle->subElementRect(QStyle::SE_ProgressBarContents, &part, widget);
-    part.rect = mStyle->subElementRect(QStyle::SE_ProgressBarGroove, &part, widget);
-    mStyle->drawControl(QStyle::CE_ProgressBarGroove, &part, painter, widget);
+    const QRect contents = style()->subElementRect(QStyle::SE_ProgressBarContents, &part, widget);
+    part.rect = style()->subElementRect(QStyle::SE_ProgressBarGroove, &part, widget);
+    style()->drawControl(QStyle::CE_ProgressBarGroove, &part, painter, widget);
     part.rect = contents;
-    mStyle->drawControl(QStyle::CE_ProgressBarContents, &part, painter, widget);
+    style()->drawControl(QStyle::CE_ProgressBarContents, &part, painter, widget);
 }
 
 void VantraStyleHelperProgressBar::drawGroove(const QStyleOptionProgressBar &option, QPainter *painter,

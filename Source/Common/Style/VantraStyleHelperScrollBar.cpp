@@ -11,9 +11,9 @@ void VantraStyleHelperScrollBar::drawComplex(QStyleOptionSlider &slider, QPainte
     if (!slider.subControls.testFlag(QStyle::SC_ScrollBarSlider)) {
         return;
     }
-    slider.rect = mStyle->subControlRect(QStyle::CC_ScrollBar, &slider, QStyle::SC_ScrollBarSlider, widget);
+    slider.rect = style()->subControlRect(QStyle::CC_ScrollBar, &slider, QStyle::SC_ScrollBarSlider, widget);
     if (!slider.rect.isEmpty()) {
-        mStyle->drawControl(QStyle::CE_ScrollBarSlider, &slider, painter, widget);
+        style()->drawControl(QStyle::CE_ScrollBarSlider, &slider, painter, widget);
     }
 }
 
@@ -37,7 +37,7 @@ QRect VantraStyleHelperScrollBar::subControlRect(const QStyleOptionSlider &optio
     const bool horizontal = option.orientation == Qt::Horizontal;
     const int length = horizontal ? option.rect.width() : option.rect.height();
     const int thickness = horizontal ? option.rect.height() : option.rect.width();
-    const int minLength = mStyle->pixelMetric(QStyle::PM_ScrollBarSliderMin, &option, widget);
+    const int minLength = style()->pixelMetric(QStyle::PM_ScrollBarSliderMin, &option, widget);
 
     int slider = length;
     if (option.maximum != option.minimum) {

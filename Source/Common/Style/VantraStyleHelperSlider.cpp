@@ -45,8 +45,8 @@ void VantraStyleHelperSlider::drawGroove(const VantraStyleOptionSlider &sliderOp
     const QRectF adjRect = grooveRect.adjusted(0.5, inset, -0.5, -inset);
     Q_ASSERT(adjRect.isValid() && !adjRect.isNull());
 
-    // The groove's round ends also bound the value span. Both are the rounded shape itself, the span through a
-    // rectangle of whole pixels: that comes to the same as a clip of the shape, and costs far less.
+    // The groove's round ends also bound the value span. Both are the rounded shape itself, the span through
+    // a rectangle of whole pixels: that comes to the same as a clip of the shape, and costs far less.
     painter->setClipping(false);
     const int radius = mTheme->grooveRadius();
     painter->drawRoundedRect(adjRect, radius, radius, Qt::AbsoluteSize);
@@ -93,8 +93,8 @@ void VantraStyleHelperSlider::drawHandle(const VantraStyleOptionSlider &option, 
         const VantraStamp::Key key{VantraStamp::Shape::Handle, static_cast<quint8>(radius),
                                    static_cast<quint16>(size), fill.color().rgba()};
         painter->drawImage(handle.topLeft(), VantraStamp::picture(key, [&](QPainter *stamp) {
-            paint(stamp, QRectF(0.5, 0.5, size - 1.0, size - 1.0));
-        }));
+                               paint(stamp, QRectF(0.5, 0.5, size - 1.0, size - 1.0));
+                           }));
         return;
     }
     const QBrush brush = painter->brush();

@@ -6,10 +6,10 @@
 void VantraStyleHelperTabBar::drawTab(VantraStyleOptionTab &option, QPainter *painter,
                                       const QWidget *widget) const
 {
-    mStyle->drawControl(QStyle::CE_TabBarTabShape, &option, painter, widget);
+    style()->drawControl(QStyle::CE_TabBarTabShape, &option, painter, widget);
     const VantraLabelSaver saver(painter);
     mTheme->adjustFontAndColor(&option, painter, widget, false);
-    mStyle->drawControl(QStyle::CE_TabBarTabLabel, &option, painter, widget);
+    style()->drawControl(QStyle::CE_TabBarTabLabel, &option, painter, widget);
 }
 
 void VantraStyleHelperTabBar::drawShape(const VantraStyleOptionTab &option, QPainter *painter,

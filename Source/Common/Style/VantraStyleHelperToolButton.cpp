@@ -36,8 +36,8 @@ void VantraStyleHelperToolButton::drawComplex(VantraStyleOptionToolButton &optio
         return;
     }
     mTheme->adjustFontAndColor(&option, widget, false);
-    mStyle->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, widget);
-    mStyle->drawControl(QStyle::CE_ToolButtonLabel, &option, painter, widget);
+    style()->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, widget);
+    style()->drawControl(QStyle::CE_ToolButtonLabel, &option, painter, widget);
 }
 
 void VantraStyleHelperToolButton::drawPanel(const VantraStyleOptionToolButton &option, QPainter *painter,

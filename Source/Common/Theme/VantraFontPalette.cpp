@@ -10,6 +10,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int kLargestPointSize = 0xFFFF; // so that the user's modifier can't overflow a theme's size
+
+} // namespace
+
 VantraFontPalette::VantraFontPalette(VantraFontPalette &&ioOther) noexcept
     : mFonts(std::exchange(ioOther.mFonts, {})), mAdjustments(std::exchange(ioOther.mAdjustments, {}))
 {
@@ -65,7 +71,7 @@ bool VantraFontPalette::applyEntry(const FontEntry &inEntry, bool inSizeFree, bo
 {
     const bool setsSize = inSizeFree && inEntry.pointSize > 0;
     if (setsSize) {
-        ioFont.setPointSize(VantraFont::scaledPointSize(inEntry.pointSize));
+        ioFont.setPointSize(VantraFont::scaledPointSize(qMin(inEntry.pointSize, kLargestPointSize)));
     }
     if (inWeightFree) {
         // A weight that the file doesn't give, or misspells, becomes the lightest, as Qt bounds it.

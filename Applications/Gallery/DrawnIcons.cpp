@@ -1,0 +1,101 @@
+#include "DrawnIcons.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <QtGui/QPixmap>
+
+namespace {
+// The grid on which the icons are drawn, and the sizes that an icon holds; others are scaled from these.
+constexpr int kGrid = 24;
+constexpr int kSizes[] = {16, 24, 32};
+
+template <typename Draw>
+QIcon drawnIcon(const QColor &inColor, Draw inDraw)
+{
+    QIcon icon;
+    for (const int size : kSizes) {
+        for (const int ratio : {1, 2}) {
+            QPixmap pixmap(size * ratio, size * ratio);
+            pixmap.fill(Qt::transparent);
+            QPainter painter(&pixmap);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.scale(double(size * ratio) / kGrid, double(size * ratio) / kGrid);
+            painter.setPen(QPen(inColor, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter.setBrush(Qt::NoBrush);
+            inDraw(painter, inColor);
+            painter.end();
+            pixmap.setDevicePixelRatio(ratio);
+            icon.addPixmap(pixmap);
+        }
+    }
+    return icon;
+}
+} // namespace
+
+QIcon DrawnIcons::picture(const QColor &inColor)
+{
+    return drawnIcon(inColor, [](QPainter &ioPainter, const QColor &inInk) {
+        ioPainter.drawRoundedRect(QRectF(2, 4, 20, 16), 2.5, 2.5);
+        ioPainter.setPen(Qt::NoPen);
+        ioPainter.setBrush(inInk);
+        ioPainter.drawEllipse(QPointF(8, 9.5), 2.0, 2.0);
+        QPainterPath hill(QPointF(4.5, 18));
+        hill.lineTo(12.5, 11);
+        hill.lineTo(19.5, 18);
+        hill.closeSubpath();
+        // Half as dense, to show that a tint keeps the alpha.
+        ioPainter.setOpacity(0.5);
+        ioPainter.drawPath(hill);
+    });
+}
+
+QIcon DrawnIcons::folder(const QColor &inColor)
+{
+    return drawnIcon(inColor, [](QPainter &ioPainter, const QColor &) {
+        QPainterPath path(QPointF(2.5, 19));
+        path.lineTo(2.5, 5);
+        path.lineTo(9, 5);
+        path.lineTo(11.5, 8);
+        path.lineTo(21.5, 8);
+        path.lineTo(21.5, 19);
+        path.closeSubpath();
+        ioPainter.drawPath(path);
+    });
+}
+
+QIcon DrawnIcons::adjust(const QColor &inColor)
+{
+    return drawnIcon(inColor, [](QPainter &ioPainter, const QColor &inInk) {
+        const struct
+        {
+            double y;
+            double knob;
+        } rows[] = {{6, 15}, {12, 8}, {18, 13}};
+        for (const auto &row : rows)
+            ioPainter.drawLine(QPointF(3, row.y), QPointF(21, row.y));
+        ioPainter.setPen(Qt::NoPen);
+        ioPainter.setBrush(inInk);
+        for (const auto &row : rows)
+            ioPainter.drawEllipse(QPointF(row.knob, row.y), 2.6, 2.6);
+    });
+}
+
+QIcon DrawnIcons::dot(int inSize, const QColor &inColor)
+{
+    QIcon icon;
+    for (const int ratio : {1, 2}) {
+        QPixmap pixmap(inSize * ratio, inSize * ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(inColor);
+        // Leaves room for the plate of a checked button to show around it.
+        const double inset = inSize * ratio / 9.0;
+        painter.drawEllipse(QRectF(pixmap.rect()).adjusted(inset, inset, -inset, -inset));
+        painter.end();
+        pixmap.setDevicePixelRatio(ratio);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+// Icons painted in code, so that the gallery needs no picture files. All come at one and two pixels a point.
+
+#include <QtGui/QColor>
+#include <QtGui/QIcon>
+
+namespace DrawnIcons {
+// One-coloured, with soft edges and holes: a landscape in a frame, a folder, and an adjustment slider.
+QIcon picture(const QColor &inColor = Qt::gray);
+QIcon folder(const QColor &inColor = Qt::gray);
+QIcon adjust(const QColor &inColor = Qt::gray);
+
+// A filled circle of a diameter in logical pixels.
+QIcon dot(int inSize, const QColor &inColor);
+} // namespace DrawnIcons

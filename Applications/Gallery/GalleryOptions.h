@@ -1,0 +1,31 @@
+#pragma once
+
+// The command line of the gallery, checked and turned into plain values.
+
+#include "GalleryLook.h"
+
+#include <QtCore/QStringList>
+
+struct GalleryOptions
+{
+    // What the program is asked to do. Print and Refuse carry a text: for the standard output and exit code
+    // 0, and for the standard error and exit code 2.
+    enum class Task { ShowWindow, Screenshot, AllScreenshots, Print, Refuse };
+
+    Task task = Task::ShowWindow;
+    QString text;
+    int page = 0;
+    QString accent = QStringLiteral("blue");
+    int textSize = 0;
+    double scale = 1.0;
+    GalleryLook::Style style = GalleryLook::Style::House;
+    bool enabled = true;
+    // File or folder of the screenshots.
+    QString target;
+
+    static constexpr double kMinimumScale = 0.5;
+    static constexpr double kMaximumScale = 4.0;
+
+    // Takes the whole command line with the program's name. Needs an application object, not a display.
+    static GalleryOptions fromArguments(const QStringList &inArguments);
+};

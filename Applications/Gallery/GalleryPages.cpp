@@ -1,0 +1,52 @@
+#include "GalleryPages.h"
+
+#include <QtCore/QStringList>
+
+#include <iterator>
+
+// Each stands in the source that bears the page's name.
+GalleryPage *makePalettePage(QWidget *inParent);
+GalleryPage *makeTypePage(QWidget *inParent);
+GalleryPage *makeIconsPage(QWidget *inParent);
+GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
+GalleryPage *makeMenusPage(QWidget *inParent);
+GalleryPage *makeMetricsPage(QWidget *inParent);
+
+namespace {
+constexpr GalleryPageEntry kPages[] = {
+    {"palette", "Palette", &makePalettePage},
+    {"type", "Type", &makeTypePage},
+    {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
+    {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
+    {"menus", "Menus", &makeMenusPage},
+    {"metrics", "Metrics", &makeMetricsPage},
+};
+} // namespace
+
+int GalleryPages::count()
+{
+    return static_cast<int>(std::size(kPages));
+}
+
+const GalleryPageEntry &GalleryPages::at(int inIndex)
+{
+    Q_ASSERT(inIndex >= 0 && inIndex < count());
+    return kPages[inIndex];
+}
+
+int GalleryPages::indexOf(const QString &inName)
+{
+    for (int index = 0; index < count(); ++index) {
+        if (inName.compare(QLatin1String(kPages[index].name), Qt::CaseInsensitive) == 0)
+            return index;
+    }
+    return -1;
+}
+
+QString GalleryPages::names(const QString &inSeparator)
+{
+    QStringList names;
+    for (const GalleryPageEntry &page : kPages)
+        names << QLatin1String(page.name);
+    return names.join(inSeparator);
+}

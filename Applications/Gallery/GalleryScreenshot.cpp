@@ -1,0 +1,120 @@
+#include "GalleryScreenshot.h"
+
+#include "GalleryOptions.h"
+#include "GalleryPages.h"
+#include "GalleryWindow.h"
+#include "WidgetPicture.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+#include <QtCore/QSaveFile>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QProgressBar>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+// Long enough for a busy bar to be well on its way, in milliseconds.
+constexpr int kBusyTime = 700;
+
+// How long one picture may take on a slow machine, in milliseconds.
+constexpr int kPictureTimeout = 120000;
+
+QString cannotWrite(const QSaveFile &inFile)
+{
+    return QStringLiteral("can't write \"%1\": %2").arg(inFile.fileName(), inFile.errorString());
+}
+
+void waitForBusyBars(GalleryWindow *ioWindow)
+{
+    const auto bars = ioWindow->findChildren<QProgressBar *>();
+    if (std::none_of(bars.begin(), bars.end(),
+                     [](const QProgressBar *inBar) { return inBar->minimum() == inBar->maximum(); }))
+        return;
+    // The first picture starts the bars' clocks.
+    widgetPicture(ioWindow, ioWindow->size(), 1.0);
+    QEventLoop loop;
+    QTimer::singleShot(kBusyTime, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// The command line that takes one of all pictures.
+QStringList argumentsForOne(const GalleryOptions &inOptions, const QString &inPage, int inScale,
+                            const QString &inFile)
+{
+    QStringList arguments = {QStringLiteral("--page"),
+                             inPage,
+                             QStringLiteral("--scale"),
+                             QString::number(inScale),
+                             QStringLiteral("--accent"),
+                             inOptions.accent,
+                             QStringLiteral("--text-size"),
+                             QString::number(inOptions.textSize),
+                             QStringLiteral("--style"),
+                             inOptions.style == GalleryLook::Style::House ? QStringLiteral("house")
+                                                                          : QStringLiteral("fusion"),
+                             QStringLiteral("--screenshot"),
+                             inFile};
+    if (!inOptions.enabled)
+        arguments << QStringLiteral("--disabled");
+    return arguments;
+}
+} // namespace
+
+QString GalleryScreenshot::check(const QString &inFile)
+{
+    QSaveFile file(inFile);
+    if (!file.open(QIODevice::WriteOnly))
+        return cannotWrite(file);
+    file.cancelWriting();
+    return QString();
+}
+
+QString GalleryScreenshot::write(GalleryLook *inLook, const GalleryOptions &inOptions)
+{
+    GalleryWindow window(inLook);
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.setPagesEnabled(inOptions.enabled);
+    window.showPage(inOptions.page);
+    window.show();
+    window.growToPage();
+    QApplication::processEvents();
+    window.growToPage();
+    waitForBusyBars(&window);
+
+    const QImage image =
+        widgetPicture(&window, window.size(), inOptions.scale).convertToFormat(QImage::Format_RGB32);
+    QSaveFile file(inOptions.target);
+    if (!file.open(QIODevice::WriteOnly) || !image.save(&file, "PNG") || !file.commit())
+        return cannotWrite(file);
+    return QString();
+}
+
+QString GalleryScreenshot::writeAll(const GalleryOptions &inOptions)
+{
+    if (!QDir().mkpath(inOptions.target))
+        return QStringLiteral("can't make the folder \"%1\"").arg(inOptions.target);
+    const QDir folder(inOptions.target);
+    for (int index = 0; index < GalleryPages::count(); ++index) {
+        const QString page = QLatin1String(GalleryPages::at(index).name);
+        for (const int scale : {1, 2}) {
+            const QString file =
+                folder.filePath(scale == 1 ? page + QLatin1String(".png") : page + QLatin1String("@2x.png"));
+            const QString refusal = check(file);
+            if (!refusal.isEmpty())
+                return refusal;
+            QProcess process;
+            process.start(QCoreApplication::applicationFilePath(),
+                          argumentsForOne(inOptions, page, scale, file));
+            if (!process.waitForFinished(kPictureTimeout) || process.exitStatus() != QProcess::NormalExit ||
+                process.exitCode() != 0)
+                return QStringLiteral("can't take the picture \"%1\": %2")
+                    .arg(file, QString::fromLocal8Bit(process.readAllStandardError()).simplified());
+            std::puts(qPrintable(QDir::toNativeSeparators(file)));
+            std::fflush(stdout);
+        }
+    }
+    return QString();
+}

@@ -1,0 +1,215 @@
+#include "GalleryPage.h"
+
+#include "DrawnIcons.h"
+#include "WidgetPicture.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+// Paints a menu that is never popped up, since a popup can't stand in a page. The menu is real, measured and
+// painted by its own code.
+class MenuPicture : public QWidget
+{
+public:
+    enum Backdrop { Page, Photograph };
+
+    // Takes the menu as its child.
+    MenuPicture(QMenu *inMenu, Backdrop inBackdrop = Page) : mMenu(inMenu), mBackdrop(inBackdrop)
+    {
+        mMenu->setParent(this, mMenu->windowFlags());
+        setAccessibleName(mMenu->title());
+    }
+
+    QSize sizeHint() const override
+    {
+        mMenu->ensurePolished();
+        return mMenu->sizeHint().grownBy(margins());
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        if (mBackdrop == Photograph)
+            paintPhotograph(painter);
+        painter.drawImage(QPoint(margins().left(), margins().top()),
+                          widgetPicture(mMenu, mMenu->sizeHint(), devicePixelRatioF()));
+    }
+
+    // A menu is a window, which a parent's state doesn't reach.
+    void changeEvent(QEvent *inEvent) override
+    {
+        if (inEvent->type() == QEvent::EnabledChange)
+            mMenu->setEnabled(isEnabled());
+        QWidget::changeEvent(inEvent);
+    }
+
+private:
+    QMargins margins() const { return mBackdrop == Photograph ? QMargins(24, 16, 24, 16) : QMargins(); }
+
+    // Sky, hills and a low sun.
+    void paintPhotograph(QPainter &ioPainter) const
+    {
+        QLinearGradient sky(rect().topLeft(), rect().bottomLeft());
+        sky.setColorAt(0.0, QColor(40, 70, 130));
+        sky.setColorAt(0.6, QColor(235, 170, 120));
+        sky.setColorAt(0.61, QColor(60, 90, 60));
+        sky.setColorAt(1.0, QColor(25, 40, 30));
+        ioPainter.fillRect(rect(), sky);
+        ioPainter.save();
+        ioPainter.setRenderHint(QPainter::Antialiasing);
+        ioPainter.setPen(Qt::NoPen);
+        ioPainter.setBrush(QColor(255, 225, 150));
+        ioPainter.drawEllipse(QPointF(width() * 0.7, height() * 0.5), 18, 18);
+        ioPainter.restore();
+    }
+
+    QMenu *mMenu;
+    Backdrop mBackdrop;
+};
+
+QMenu *makePlainMenu()
+{
+    auto *menu = new QMenu(QStringLiteral("Plain"));
+    menu->addAction(QStringLiteral("Open"));
+    menu->setActiveAction(menu->addAction(QStringLiteral("Hovered")));
+    menu->addAction(QStringLiteral("Disabled"))->setEnabled(false);
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Behind a line"));
+    return menu;
+}
+
+QMenu *makeIconMenu()
+{
+    auto *menu = new QMenu(QStringLiteral("Icons"));
+    menu->addAction(DrawnIcons::folder(), QStringLiteral("Open folder"));
+    menu->setActiveAction(menu->addAction(DrawnIcons::picture(), QStringLiteral("Hovered")));
+    menu->addAction(DrawnIcons::adjust(), QStringLiteral("Disabled"))->setEnabled(false);
+    menu->addAction(QStringLiteral("Without an icon"));
+    return menu;
+}
+
+QMenu *makeCheckMenu()
+{
+    auto *menu = new QMenu(QStringLiteral("Check marks"));
+    const auto add = [menu](const QString &inText, bool inChecked, bool inEnabled,
+                            const QIcon &inIcon = QIcon()) {
+        QAction *action = menu->addAction(inIcon, inText);
+        action->setCheckable(true);
+        action->setChecked(inChecked);
+        action->setEnabled(inEnabled);
+        return action;
+    };
+    add(QStringLiteral("Off"), false, true);
+    add(QStringLiteral("On"), true, true);
+    menu->setActiveAction(add(QStringLiteral("On, hovered"), true, true));
+    add(QStringLiteral("On, disabled"), true, false);
+    menu->addSeparator();
+    add(QStringLiteral("Off, with icon"), false, true, DrawnIcons::picture());
+    add(QStringLiteral("On, with icon"), true, true, DrawnIcons::picture());
+    return menu;
+}
+
+QMenu *makeShortcutMenu()
+{
+    auto *menu = new QMenu(QStringLiteral("Shortcuts"));
+    menu->addAction(QStringLiteral("Undo"))->setShortcut(QKeySequence(QStringLiteral("Ctrl+Z")));
+    menu->addAction(QStringLiteral("Redo"))->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
+    QAction *disabled = menu->addAction(QStringLiteral("Paste"));
+    disabled->setShortcut(QKeySequence(QStringLiteral("Ctrl+V")));
+    disabled->setEnabled(false);
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("A long text beside a shortcut"))
+        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+Alt+Shift+F12")));
+    menu->addAction(QStringLiteral("&Mnemonic && ampersand"));
+    return menu;
+}
+
+QMenu *makeSubMenus()
+{
+    auto *menu = new QMenu(QStringLiteral("Submenus"));
+    menu->addMenu(QStringLiteral("Recent pictures"))->addAction(QStringLiteral("One"));
+    QMenu *withIcon = menu->addMenu(DrawnIcons::folder(), QStringLiteral("With an icon"));
+    withIcon->addAction(QStringLiteral("One"));
+    QMenu *disabled = menu->addMenu(QStringLiteral("Disabled"));
+    disabled->addAction(QStringLiteral("One"));
+    disabled->menuAction()->setEnabled(false);
+    menu->addSection(QStringLiteral("A section"));
+    menu->addAction(QStringLiteral("An item of the section"));
+    return menu;
+}
+
+QMenu *makeOverlayMenu()
+{
+    auto *menu = new QMenu(QStringLiteral("Overlay"));
+    menu->setProperty("hudOverlay", true);
+    menu->addAction(DrawnIcons::picture(), QStringLiteral("Picture"));
+    menu->setActiveAction(menu->addAction(QStringLiteral("Hovered")));
+    menu->addAction(QStringLiteral("Disabled"))->setEnabled(false);
+    menu->addSeparator();
+    QAction *checked = menu->addAction(QStringLiteral("Checked"));
+    checked->setCheckable(true);
+    checked->setChecked(true);
+    menu->addMenu(QStringLiteral("Submenu"))->addAction(QStringLiteral("One"));
+    return menu;
+}
+
+class MenusPage : public GalleryPage
+{
+public:
+    explicit MenusPage(QWidget *inParent) : GalleryPage(inParent)
+    {
+        QVBoxLayout *body =
+            addSection(QStringLiteral("Live menus"),
+                       QStringLiteral("A menu bar and a button that open the menus for real."));
+        auto *bar = new QMenuBar;
+        bar->setNativeMenuBar(false);
+        for (const auto make : {&makePlainMenu, &makeIconMenu, &makeCheckMenu, &makeShortcutMenu,
+                                &makeSubMenus, &makeOverlayMenu}) {
+            QMenu *menu = make();
+            menu->setParent(bar, menu->windowFlags());
+            menu->setActiveAction(nullptr);
+            bar->addMenu(menu);
+        }
+        body->addWidget(bar);
+        auto *button = new QPushButton(QStringLiteral("Open a menu"));
+        auto *menu = makeShortcutMenu();
+        menu->setParent(button, menu->windowFlags());
+        menu->setActiveAction(nullptr);
+        connect(button, &QPushButton::clicked, menu,
+                [button, menu] { menu->popup(button->mapToGlobal(QPoint(0, button->height()))); });
+        body->addWidget(button, 0, Qt::AlignLeft);
+
+        QVBoxLayout *pictures = addSection(QStringLiteral("Pictures of menus"),
+                                           QStringLiteral("Each is a real menu, painted into the page."));
+        SampleGrid grid(pictures, 4, Qt::AlignBottom);
+        grid.add(QStringLiteral("plain"), new MenuPicture(makePlainMenu()));
+        grid.add(QStringLiteral("icons"), new MenuPicture(makeIconMenu()));
+        grid.add(QStringLiteral("check marks"), new MenuPicture(makeCheckMenu()));
+        grid.add(QStringLiteral("submenus and a section"), new MenuPicture(makeSubMenus()));
+        pictures->addSpacing(8);
+        SampleGrid wide(pictures, 2, Qt::AlignBottom);
+        wide.add(QStringLiteral("shortcuts and long texts"), new MenuPicture(makeShortcutMenu()));
+        wide.add(QStringLiteral("overlay on a picture"),
+                 new MenuPicture(makeOverlayMenu(), MenuPicture::Photograph));
+    }
+
+    void refresh() override
+    {
+        const auto pictures = findChildren<MenuPicture *>();
+        for (MenuPicture *picture : pictures)
+            picture->updateGeometry();
+    }
+};
+} // namespace
+
+GalleryPage *makeMenusPage(QWidget *inParent)
+{
+    return new MenusPage(inParent);
+}

@@ -1,0 +1,73 @@
+#include "GalleryLook.h"
+#include "GalleryOptions.h"
+#include "GalleryScreenshot.h"
+#include "GalleryWindow.h"
+
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+// The exit code of everything that the user has to put right.
+constexpr int kRefused = 2;
+
+int refuse(const QString &inReason)
+{
+    std::fprintf(stderr, "vtwidgets-gallery: %s\n", qPrintable(inReason));
+    return kRefused;
+}
+
+// What can be done without a window system: reading the command line, its answers, and checks that should
+// come before any work. Yields an exit code, or nothing when there is a window or a picture to be made.
+std::optional<int> runWithoutWindows(int inCount, char **inValues, GalleryOptions &outOptions)
+{
+    QCoreApplication application(inCount, inValues);
+    outOptions = GalleryOptions::fromArguments(QCoreApplication::arguments());
+    QString refusal;
+    switch (outOptions.task) {
+    case GalleryOptions::Task::Refuse: return refuse(outOptions.text);
+    case GalleryOptions::Task::Print: std::fputs(qPrintable(outOptions.text), stdout); return 0;
+    case GalleryOptions::Task::AllScreenshots:
+        refusal = GalleryScreenshot::writeAll(outOptions);
+        return refusal.isEmpty() ? 0 : refuse(refusal);
+    case GalleryOptions::Task::Screenshot: refusal = GalleryScreenshot::check(outOptions.target); break;
+    case GalleryOptions::Task::ShowWindow: break;
+    }
+    if (!refusal.isEmpty())
+        return refuse(refusal);
+    return std::nullopt;
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    GalleryOptions options;
+    if (const std::optional<int> exitCode = runWithoutWindows(argc, argv, options))
+        return *exitCode;
+
+    const bool wantsWindow = options.task == GalleryOptions::Task::ShowWindow;
+    if (!wantsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (options.scale != 1.0)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+
+    // Qt has no say in the arguments: it would take --style for its own.
+    int guiArgumentCount = 1;
+    QApplication application(guiArgumentCount, argv);
+    QApplication::setApplicationName(QStringLiteral("vtwidgets-gallery"));
+    QApplication::setApplicationVersion(QStringLiteral(VTWIDGETS_VERSION));
+
+    GalleryLook look;
+    look.start(options.accent, options.textSize, options.style);
+    if (!wantsWindow) {
+        const QString refusal = GalleryScreenshot::write(&look, options);
+        return refusal.isEmpty() ? 0 : refuse(refusal);
+    }
+
+    GalleryWindow window(&look);
+    window.setPagesEnabled(options.enabled);
+    window.showPage(options.page);
+    window.show();
+    return QApplication::exec();
+}
