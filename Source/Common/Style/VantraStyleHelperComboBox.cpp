@@ -105,7 +105,9 @@ QRect VantraStyleHelperComboBox::subControlRect(const VantraStyleOptionComboBox 
         const int pill =
             option.backgroundStyle == VantraComboBoxBase::BackgroundStyleNone ? 0 : pillRadius(rect.size());
         if (subControl == QStyle::SC_ComboBoxEditField) {
-            rect.adjust(pill, 0, -(kArrowExtent + pill), 0);
+            // The field has the size of the text. Without one there would be nothing to type in.
+            const QRect box = option.currentText.isEmpty() ? option.rect : rect;
+            rect = box.adjusted(pill, 0, -(kArrowExtent + pill), 0);
         } else if (subControl == QStyle::SC_ComboBoxArrow) {
             rect.setLeft(rect.right() - pill - kArrowExtent);
         }
