@@ -180,13 +180,14 @@ milliseconds VantraStyle::animationTime(const QWidget *widget) const
         return milliseconds(0);
     }
     const steady_clock::time_point now = steady_clock::now();
-    const auto [entry, isNew] = mAnimations.try_emplace(widget, AnimationEntry{now, now});
-    if (isNew) {
-        const_cast<QWidget *>(widget)->installEventFilter(const_cast<VantraStyle *>(this));
+    AnimationEntry &entry = mAnimations[widget];
+    if (entry.widget.isNull()) {
+        entry = {now, now, const_cast<QWidget *>(widget)};
+        entry.widget->installEventFilter(const_cast<VantraStyle *>(this));
         return milliseconds(0);
     }
-    entry->second.lastQueryTime = now;
-    return duration_cast<milliseconds>(now - entry->second.startTime);
+    entry.lastQueryTime = now;
+    return duration_cast<milliseconds>(now - entry.startTime);
 }
 
 void VantraStyle::onAnimationUpdate()
@@ -194,10 +195,11 @@ void VantraStyle::onAnimationUpdate()
     const milliseconds limit = mAnimationTimer.intervalAsDuration() * kSilentIntervals;
     const steady_clock::time_point now = steady_clock::now();
     for (auto entry = mAnimations.begin(); entry != mAnimations.end();) {
-        if (duration_cast<milliseconds>(now - entry->second.lastQueryTime) > limit) {
+        const AnimationEntry &animation = entry->second;
+        if (animation.widget.isNull() || duration_cast<milliseconds>(now - animation.lastQueryTime) > limit) {
             entry = mAnimations.erase(entry);
         } else {
-            const_cast<QWidget *>(entry->first)->update();
+            animation.widget->update();
             ++entry;
         }
     }

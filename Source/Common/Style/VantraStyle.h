@@ -15,6 +15,7 @@
 
 #include "VTWidgetsLiteExport.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtWidgets/QProxyStyle>
 
@@ -89,6 +90,7 @@ private:
     {
         std::chrono::steady_clock::time_point startTime;
         std::chrono::steady_clock::time_point lastQueryTime;
+        QPointer<QWidget> widget; // null when another filter kept the widget's end from this style
     };
 
     // Each answers whether it handled the call; what they leave goes to Fusion.

@@ -148,6 +148,13 @@ QRect VantraStyle::subElementRect(SubElement element, const QStyleOption *option
             rect = option->rect;
         }
         break;
+    case SE_TabBarScrollLeftButton:
+    case SE_TabBarScrollRightButton:
+        // Qt asks the widget without looking whether there is one.
+        if (widget == nullptr) {
+            rect = QRect();
+        }
+        break;
     case SE_ProgressBarGroove:
     case SE_ProgressBarContents:
     case SE_ProgressBarLabel:

@@ -89,7 +89,7 @@ void VantraStyleHelperMenu::drawItem(const VantraStyleOptionMenuItem &option, QP
     mTheme->adjustFontAndColor(&item, widget, false);
 
     const qsizetype tab = item.text.indexOf(QLatin1Char('\t'));
-    const Columns column = columns(item, tab >= 0, widget);
+    const Columns column = columns(option, tab >= 0, widget);
     if (!item.icon.isNull()) {
         drawIcon(item, column.icon, iconExtent(item, widget), painter);
     }
@@ -157,16 +157,20 @@ int VantraStyleHelperMenu::shortcutWidth(const VantraStyleOptionMenuItem &option
     if (menu == nullptr) {
         return 0;
     }
-    VantraStyleOptionMenuItem widest = option;
-    mTheme->adjustFontAndColor(&widest, widget, true);
+    std::optional<VantraStyleOptionMenuItem> widest;
     int width = 0;
     const QList<QAction *> actions = menu->actions();
     for (const QAction *action : actions) {
         const QKeySequence shortcut = action->shortcut();
-        if (!shortcut.isEmpty()) {
-            width = qMax(width,
-                         widest.fontMetrics.horizontalAdvance(shortcut.toString(QKeySequence::PortableText)));
+        if (shortcut.isEmpty()) {
+            continue;
         }
+        if (!widest) {
+            widest = option;
+            mTheme->adjustFontAndColor(&*widest, widget, true);
+        }
+        const QString text = shortcut.toString(QKeySequence::PortableText);
+        width = qMax(width, widest->fontMetrics.horizontalAdvance(text));
     }
     return width;
 }
