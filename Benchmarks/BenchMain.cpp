@@ -14,27 +14,53 @@
 
 #include <cstdio>
 
+namespace {
+
+// The benchmark of memory starts this program anew for each style. Takes the argument out and gives its value.
+QString takeMemoryArgument(int &ioCount, char **ioArguments)
+{
+    const QByteArray name("--peak-memory=");
+    if (ioCount != 2 || !QByteArray(ioArguments[1]).startsWith(name)) {
+        return QString();
+    }
+    ioCount = 1;
+    return QString::fromLatin1(ioArguments[1] + name.size());
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    const QString memoryOf = takeMemoryArgument(argc, argv);
+    if (memoryOf == QLatin1String("fusion")) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        Bench::printPeakMemory();
+        return 0;
+    }
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
     }
-    if (!VantraFont::loadApplicationFonts() ||
-        !VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), QStringLiteral("blue"))) {
+    if (!VantraFont::loadApplicationFonts()
+        || !VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), QStringLiteral("blue"))) {
         std::fputs("vtwidgets-bench: the library's resources could not be loaded\n", stderr);
         return 1;
     }
     QApplication::setStyle(new VantraStyle);
     QApplication::setFont(VantraFont::mainFont());
+    if (!memoryOf.isEmpty()) {
+        Bench::printPeakMemory();
+        return 0;
+    }
 
     Bench::registerTheme();
     Bench::registerStyle();
     Bench::registerStart();
+    Bench::registerWhole();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

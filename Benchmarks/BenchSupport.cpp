@@ -1,5 +1,7 @@
 #include "BenchSupport.h"
 
+#include "Style/VantraStyle.h"
+
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
@@ -34,6 +36,18 @@ double median(std::vector<double> &ioValues)
     return *middle;
 }
 
+void report(benchmark::State &state, std::vector<double> &ioOurs, std::vector<double> &ioReference, double inTarget)
+{
+    const double referenceTime = median(ioReference);
+    const double ratio = median(ioOurs) / referenceTime;
+    state.counters["ratio"] = ratio;
+    state.counters["reference_ns"] = referenceTime;
+    if (inTarget > 0.0) {
+        state.counters["target"] = inTarget;
+        state.counters["met"] = ratio <= inTarget ? 1 : 0;
+    }
+}
+
 } // namespace
 
 void paired(benchmark::State &state, const Work &inOurs, const Work &inReference, int inBatch,
@@ -49,14 +63,21 @@ void paired(benchmark::State &state, const Work &inOurs, const Work &inReference
         reference.push_back(nanosecondsOf(inReference, inBatch));
         state.SetIterationTime(ours.back() * 1e-9);
     }
-    const double referenceTime = median(reference);
-    const double ratio = median(ours) / referenceTime;
-    state.counters["ratio"] = ratio;
-    state.counters["reference_ns"] = referenceTime;
-    if (inTarget > 0.0) {
-        state.counters["target"] = inTarget;
-        state.counters["met"] = ratio <= inTarget ? 1 : 0;
+    report(state, ours, reference, inTarget);
+}
+
+void pairedApplicationStyles(benchmark::State &state, const Work &inWork, double inTarget)
+{
+    std::vector<double> ours;
+    std::vector<double> reference;
+    for ([[maybe_unused]] auto _ : state) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        reference.push_back(nanosecondsOf(inWork, 1));
+        QApplication::setStyle(new VantraStyle);
+        ours.push_back(nanosecondsOf(inWork, 1));
+        state.SetIterationTime(ours.back() * 1e-9);
     }
+    report(state, ours, reference, inTarget);
 }
 
 void pairedPaint(benchmark::State &state, const MakeSample &inMake, const QSize &inSize, double inTarget)

@@ -1,6 +1,7 @@
 #include "Style/VantraStyleHelper.h"
 
 #include "Style/VantraStamp.h"
+#include "Style/VantraTextMeasure.h"
 #include "Theme/VantraCornerRadii.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -241,7 +242,8 @@ bool VantraStyleHelper::drawIconTextArrow(const Content &content, const Look &lo
     if (!textRect.isEmpty() && content.hasText()) {
         // The size routines add 4 to a text, and so does its elision.
         style()->drawItemText(painter, textRect, flags, look.palette, look.state & QStyle::State_Enabled,
-                              elided(content.text, content.metrics, textRect.width() + 4, flags),
+                              VantraTextMeasure::elided(content.text, content.metrics, Qt::ElideMiddle,
+                                                        textRect.width() + 4, flags),
                               QPalette::ButtonText);
         painted = true;
     }
@@ -253,31 +255,9 @@ bool VantraStyleHelper::drawIconTextArrow(const Content &content, const Look &lo
     return painted;
 }
 
-QString VantraStyleHelper::elided(const QString &text, const QFontMetrics &metrics, int width, int flags,
-                                  Qt::TextElideMode mode)
-{
-    // Measuring a text shapes it, and painting shapes it again. The advances of its characters, with a pixel
-    // each for kerning and rounding, tell cheaply of most texts that they fit as they are.
-    constexpr qsizetype kLongestSummed = 48;
-    if (text.size() <= kLongestSummed) {
-        int sum = 0;
-        for (const QChar character : text) {
-            if (character.unicode() >= 0x80) {
-                sum = width + 1;
-                break;
-            }
-            sum += metrics.horizontalAdvance(character) + 1;
-        }
-        if (sum <= width) {
-            return text;
-        }
-    }
-    return metrics.elidedText(text, mode, width, flags);
-}
-
 QSize VantraStyleHelper::textSize(const QString &text, const QFontMetrics &metrics)
 {
-    return text.isEmpty() ? QSize(0, 0) : metrics.size(0, text) + QSize(4, 0);
+    return text.isEmpty() ? QSize(0, 0) : VantraTextMeasure::size(text, metrics) + QSize(4, 0);
 }
 
 QSize VantraStyleHelper::iconTextSize(const QIcon &icon, const QSize &iconSize, const QString &text,

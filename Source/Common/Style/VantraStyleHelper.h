@@ -134,10 +134,6 @@ protected:
     void drawThemedArrow(Qt::ArrowType type, const QColor &color, bool enlarged, const QRect &rect,
                          QPainter *painter) const;
 
-    // The text cut to a width in logical pixels, or the text itself when it fits.
-    static QString elided(const QString &text, const QFontMetrics &metrics, int width, int flags,
-                          Qt::TextElideMode mode = Qt::ElideMiddle);
-
     const QStyle *style() const { return mStyle->proxy(); }
 
     QStyle *const mStyle;

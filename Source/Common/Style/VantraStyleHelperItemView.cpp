@@ -1,5 +1,6 @@
 #include "Style/VantraStyleHelperItemView.h"
 
+#include "Style/VantraTextMeasure.h"
 #include "StyleOptions/VantraStyleOptionViewItem.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -115,8 +116,8 @@ void VantraStyleHelperItemView::drawText(const VantraStyleOptionViewItem &option
         painter->drawRect(rect.adjusted(0, 0, -1, -1));
     }
     const int alignment = static_cast<int>(option.displayAlignment.toInt());
-    const QString text =
-        elided(option.text, option.fontMetrics, rect.width() + 4, alignment, option.textElideMode);
+    const QString text = VantraTextMeasure::elided(option.text, option.fontMetrics, option.textElideMode,
+                                                   rect.width() + 4, alignment);
     style()->drawItemText(painter, rect, alignment, option.palette, state & QStyle::State_Enabled, text,
                           QPalette::Text);
 }

@@ -1,0 +1,88 @@
+#include "Style/VantraTextMeasure.h"
+
+#include <QtCore/QHashFunctions>
+#include <QtGui/QFontMetrics>
+
+#include <array>
+#include <optional>
+
+namespace VantraTextMeasure {
+
+namespace {
+
+// Each text has one place, which the next text of the same place takes over.
+constexpr std::size_t kPlaces = 256;
+
+// Between two alternatives of different length in one text; Qt chooses among them.
+constexpr QChar kVariantSeparator(0x9c);
+
+struct Place
+{
+    QString text;
+    std::optional<QFontMetrics> metrics;
+
+    bool holds(const QString &inText, const QFontMetrics &inMetrics) const
+    {
+        return metrics && *metrics == inMetrics && text == inText;
+    }
+};
+
+struct SizePlace : Place
+{
+    QSize size;
+};
+
+struct ElisionPlace : Place
+{
+    double textWidth = 0.0;
+    QString elided;
+    int elidedWidth = -1; // -1 as long as nothing was cut
+    Qt::TextElideMode mode = Qt::ElideNone;
+};
+
+template <typename PlaceType>
+PlaceType &placeOf(const QString &inText)
+{
+    static std::array<PlaceType, kPlaces> sPlaces;
+    return sPlaces[qHash(inText) % kPlaces];
+}
+
+} // namespace
+
+QSize size(const QString &inText, const QFontMetrics &inMetrics)
+{
+    auto &place = placeOf<SizePlace>(inText);
+    if (!place.holds(inText, inMetrics)) {
+        place.text = inText;
+        place.metrics = inMetrics;
+        place.size = inMetrics.size(0, inText);
+    }
+    return place.size;
+}
+
+QString elided(const QString &inText, const QFontMetrics &inMetrics, Qt::TextElideMode inMode, int inWidth,
+               int inFlags)
+{
+    // Mnemonics take no width, and variants have several.
+    if ((inFlags & Qt::TextShowMnemonic) != 0 || inText.contains(kVariantSeparator)) {
+        return inMetrics.elidedText(inText, inMode, inWidth, inFlags);
+    }
+    auto &place = placeOf<ElisionPlace>(inText);
+    if (!place.holds(inText, inMetrics)) {
+        place.text = inText;
+        place.metrics = inMetrics;
+        place.textWidth = QFontMetricsF(inMetrics).horizontalAdvance(inText);
+        place.elidedWidth = -1;
+    }
+    if (place.textWidth <= inWidth) {
+        return inText;
+    }
+    if (place.elidedWidth != inWidth || place.mode != inMode) {
+        place.elided = inMetrics.elidedText(inText, inMode, inWidth, inFlags);
+        place.elidedWidth = inWidth;
+        place.mode = inMode;
+    }
+    return place.elided;
+}
+
+} // namespace VantraTextMeasure
