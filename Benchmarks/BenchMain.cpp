@@ -16,7 +16,8 @@
 
 namespace {
 
-// The benchmark of memory starts this program anew for each style. Takes the argument out and gives its value.
+// The benchmark of memory starts this program anew for each style. Takes the argument out and gives its
+// value.
 QString takeMemoryArgument(int &ioCount, char **ioArguments)
 {
     const QByteArray name("--peak-memory=");
@@ -45,8 +46,8 @@ int main(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
     }
-    if (!VantraFont::loadApplicationFonts()
-        || !VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), QStringLiteral("blue"))) {
+    if (!VantraFont::loadApplicationFonts() ||
+        !VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), QStringLiteral("blue"))) {
         std::fputs("vtwidgets-bench: the library's resources could not be loaded\n", stderr);
         return 1;
     }

@@ -112,6 +112,11 @@ void asItIs(QStyleOption &)
 {
 }
 
+void checkedOn(QStyleOption &option)
+{
+    option.state |= QStyle::State_On;
+}
+
 void registerButtons()
 {
     const auto fill = [](QStyleOptionButton &option) { option.text = QStringLiteral("Button"); };
@@ -134,15 +139,26 @@ void registerButtons()
     };
     control<QCheckBox, QStyleOptionButton>("CE_CheckBox", QStyle::CE_CheckBox, {100, 20}, 0.85, check);
     control<QCheckBox, QStyleOptionButton>("CE_RadioButton", QStyle::CE_RadioButton, {100, 20}, 0.0, check);
+    control<QCheckBox, QStyleOptionButton>("CE_CheckBoxLabel", QStyle::CE_CheckBoxLabel, {100, 20}, 0.0,
+                                           check);
+    primitive<QCheckBox, QStyleOptionButton>("PE_IndicatorRadioButton", QStyle::PE_IndicatorRadioButton,
+                                             {16, 16}, 0.0, check);
     primitive<QCheckBox, QStyleOptionButton>("PE_IndicatorCheckBox", QStyle::PE_IndicatorCheckBox, {16, 16},
                                              0.0, check);
-    complex<QToolButton, QStyleOptionToolButton>("CC_ToolButton", QStyle::CC_ToolButton, {24, 24}, 1.0,
-                                                 [](QStyleOptionToolButton &option) {
-                                                     option.icon = icon();
-                                                     option.iconSize = QSize(16, 16);
-                                                     option.subControls = QStyle::SC_ToolButton;
-                                                     option.arrowType = Qt::NoArrow;
-                                                 });
+    const auto tool = [](QStyleOptionToolButton &option) {
+        option.icon = icon();
+        option.iconSize = QSize(16, 16);
+        option.subControls = QStyle::SC_ToolButton;
+        option.arrowType = Qt::NoArrow;
+    };
+    complex<QToolButton, QStyleOptionToolButton>("CC_ToolButton", QStyle::CC_ToolButton, {24, 24}, 1.0, tool);
+    control<QToolButton, QStyleOptionToolButton>("CE_ToolButtonLabel", QStyle::CE_ToolButtonLabel, {24, 24},
+                                                 0.0, tool);
+    primitive<QToolButton, QStyleOptionToolButton>("PE_PanelButtonTool/checked", QStyle::PE_PanelButtonTool,
+                                                   {24, 24}, 0.0, [tool](QStyleOptionToolButton &option) {
+                                                       tool(option);
+                                                       checkedOn(option);
+                                                   });
 }
 
 void registerFields()
@@ -185,6 +201,12 @@ void registerRanges()
     };
     complex<QSlider, QStyleOptionSlider>("CC_Slider", QStyle::CC_Slider, {200, 22}, 0.0, slider);
     complex<QScrollBar, QStyleOptionSlider>("CC_ScrollBar", QStyle::CC_ScrollBar, {14, 200}, 0.06, bar);
+    control<QProgressBar, QStyleOptionProgressBar>("CE_ProgressBarGroove", QStyle::CE_ProgressBarGroove,
+                                                   {200, 8}, 0.0, progress);
+    control<QProgressBar, QStyleOptionProgressBar>("CE_ProgressBarContents", QStyle::CE_ProgressBarContents,
+                                                   {200, 8}, 0.0, progress);
+    control<QScrollBar, QStyleOptionSlider>("CE_ScrollBarSlider", QStyle::CE_ScrollBarSlider, {8, 60}, 0.0,
+                                            bar);
     control<QProgressBar, QStyleOptionProgressBar>("CE_ProgressBar", QStyle::CE_ProgressBar, {200, 20}, 0.07,
                                                    progress);
 }
@@ -198,6 +220,8 @@ void registerContainers()
                                           tab(option);
                                           option.state |= QStyle::State_Selected;
                                       });
+    control<QTabBar, QStyleOptionTab>("CE_TabBarTabShape", QStyle::CE_TabBarTabShape, {80, 28}, 0.0, tab);
+    control<QTabBar, QStyleOptionTab>("CE_TabBarTabLabel", QStyle::CE_TabBarTabLabel, {80, 28}, 0.0, tab);
     const auto item = [](QStyleOptionMenuItem &option) {
         option.menuItemType = QStyleOptionMenuItem::Normal;
         option.text = QStringLiteral("Open...\tCtrl+O");
@@ -207,6 +231,8 @@ void registerContainers()
     control<QMenu, QStyleOptionMenuItem>(
         "CE_MenuItem/separator", QStyle::CE_MenuItem, {200, 8}, 0.0,
         [](QStyleOptionMenuItem &option) { option.menuItemType = QStyleOptionMenuItem::Separator; });
+    primitive<QMenu, QStyleOptionMenuItem>("PE_IndicatorMenuCheckMark", QStyle::PE_IndicatorMenuCheckMark,
+                                           {16, 16}, 0.0, checkedOn);
     primitive<QMenu, QStyleOptionMenuItem>("PE_PanelMenu", QStyle::PE_PanelMenu, {200, 90}, 0.0, asItIs);
     control<QFrame, QStyleOptionFrame>("CE_ShapedFrame/panel", QStyle::CE_ShapedFrame, {200, 90}, 0.0,
                                        [](QStyleOptionFrame &option) { option.frameShape = QFrame::Panel; });
@@ -237,6 +263,14 @@ void registerItemViews()
         option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
         option.showDecorationSelected = true;
     };
+    primitive<QTreeView, QStyleOptionViewItem>(
+        "PE_PanelItemViewItem/selected", QStyle::PE_PanelItemViewItem, {200, 22}, 0.0,
+        [](QStyleOptionViewItem &option) { option.state |= QStyle::State_Selected; });
+    primitive<QTreeView, QStyleOptionViewItem>(
+        "PE_IndicatorBranch", QStyle::PE_IndicatorBranch, {20, 22}, 0.0,
+        [](QStyleOptionViewItem &option) { option.state |= QStyle::State_Children; });
+    primitive<QTreeView, QStyleOption>("PE_IndicatorItemViewItemDrop", QStyle::PE_IndicatorItemViewItemDrop,
+                                       {200, 2}, 0.0, asItIs);
     control<QTreeView, QStyleOptionViewItem>("CE_ItemViewItem", QStyle::CE_ItemViewItem, {200, 22}, 0.7, row);
     control<QTreeView, QStyleOptionViewItem>("CE_ItemViewItem/selected", QStyle::CE_ItemViewItem, {200, 22},
                                              0.0, [row](QStyleOptionViewItem &option) {

@@ -36,7 +36,8 @@ double median(std::vector<double> &ioValues)
     return *middle;
 }
 
-void report(benchmark::State &state, std::vector<double> &ioOurs, std::vector<double> &ioReference, double inTarget)
+void report(benchmark::State &state, std::vector<double> &ioOurs, std::vector<double> &ioReference,
+            double inTarget)
 {
     const double referenceTime = median(ioReference);
     const double ratio = median(ioOurs) / referenceTime;

@@ -12,7 +12,9 @@
 #include <QtGui/QPixmap>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QTabBar>
 
 namespace Bench {
@@ -148,6 +150,7 @@ void registerTheme()
     registerAdjust<VantraStyleOptionViewItem, QLabel>("ViewItem");
     registerAdjust<VantraStyleOptionToolButton, QPushButton>("ToolButton");
     registerAdjust<VantraStyleOptionTab, QTabBar>("Tab");
+    registerAdjust<QStyleOptionMenuItem, QMenu>("MenuItem");
     benchmark::RegisterBenchmark("tintedIcon/hit", tintedIconHit, false)
         ->UseManualTime()
         ->Iterations(kRounds);

@@ -131,8 +131,8 @@ std::unique_ptr<QListView> rowsView(QStyle *inStyle, QAbstractItemModel *inModel
     return view;
 }
 
-// The time is that of a page, the ratio therefore also that of a row: both styles are given the same number of
-// rows, as one row of either is as high as the other's within a pixel or so.
+// The time is that of a page, the ratio therefore also that of a row: both styles are given the same number
+// of rows, as one row of either is as high as the other's within a pixel or so.
 void scrolledList(benchmark::State &state)
 {
     constexpr double kTarget = 0.65;

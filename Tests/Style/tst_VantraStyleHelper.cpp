@@ -6,6 +6,7 @@
 // The library keeps its painting families to itself; their common verbs need nothing but its public theme.
 #include "../../Source/Common/Style/VantraStamp.cpp"
 #include "../../Source/Common/Style/VantraStyleHelper.cpp"
+#include "../../Source/Common/Style/VantraTextMeasure.cpp"
 
 #include <QtWidgets/QApplication>
 

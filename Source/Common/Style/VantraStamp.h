@@ -17,6 +17,7 @@ namespace VantraStamp {
 enum class Shape : quint8 {
     Disc,
     Handle,
+    Tick,
     Ring,
     RingWithDot,
     RingWithHalfDot,

@@ -6,6 +6,7 @@
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtCore/QtMath>
+#include <QtGui/QImage>
 
 namespace {
 
@@ -42,6 +43,19 @@ constexpr Growth kGrowths[] = {
 constexpr QPointF kCheckStart(0.73125, 4.14313);
 constexpr QPointF kCheckCorner(4.36875, 7.48264);
 constexpr QPointF kCheckEnd(11.2687, 0.696475);
+
+constexpr int kCheckStampSide = 18; // even, and a pen's width larger than the tick
+
+void paintCheckMark(QPainter *painter, const QRectF &rect, const QColor &color)
+{
+    const QBrush brush(color, Qt::SolidPattern);
+    painter->setBrush(brush);
+    painter->setPen(QPen(brush, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF origin((rect.width() - kCheckEnd.x() - kCheckStart.x()) * 0.5 + rect.x(),
+                         (rect.height() - kCheckCorner.y() - kCheckEnd.y()) * 0.5 + rect.y());
+    painter->drawLine(origin + kCheckStart, origin + kCheckCorner);
+    painter->drawLine(origin + kCheckCorner, origin + kCheckEnd);
+}
 
 } // namespace
 
@@ -161,15 +175,23 @@ void VantraStyleHelper::drawThemedArrow(Qt::ArrowType type, const QColor &color,
 
 void VantraStyleHelper::drawCheckMark(QPainter *painter, const QRectF &rect, const QColor &color)
 {
+    const QRect whole = rect.toRect();
+    if (rect == whole && VantraStamp::applies(painter)) {
+        // The tick keeps its size; only whether its box is odd moves it, by half a pixel.
+        const QSize odd(whole.width() % 2, whole.height() % 2);
+        const QSize box = QSize(kCheckStampSide, kCheckStampSide) - odd;
+        const VantraStamp::Key key{VantraStamp::Shape::Tick,
+                                   static_cast<quint8>(odd.width() + 2 * odd.height()), kCheckStampSide,
+                                   color.rgba()};
+        const QImage &tick = VantraStamp::picture(
+            key, [&](QPainter *stamp) { paintCheckMark(stamp, QRectF(QPointF(0.0, 0.0), box), color); });
+        painter->drawImage(whole.x() + (whole.width() - box.width()) / 2,
+                           whole.y() + (whole.height() - box.height()) / 2, tick);
+        return;
+    }
     const VantraPainterSaver saver(painter);
     painter->setRenderHint(QPainter::Antialiasing);
-    const QBrush brush(color, Qt::SolidPattern);
-    painter->setBrush(brush);
-    painter->setPen(QPen(brush, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF origin((rect.width() - kCheckEnd.x() - kCheckStart.x()) * 0.5 + rect.x(),
-                         (rect.height() - kCheckCorner.y() - kCheckEnd.y()) * 0.5 + rect.y());
-    painter->drawLine(origin + kCheckStart, origin + kCheckCorner);
-    painter->drawLine(origin + kCheckCorner, origin + kCheckEnd);
+    paintCheckMark(painter, rect, color);
 }
 
 void VantraStyleHelper::drawBottomLine(QPainter *painter, const QRect &rect, const QColor &color, int width)

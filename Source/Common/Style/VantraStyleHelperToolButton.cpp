@@ -1,5 +1,6 @@
 #include "Style/VantraStyleHelperToolButton.h"
 
+#include "Style/VantraStamp.h"
 #include "StyleOptions/VantraStyleOptionToolButton.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -55,12 +56,8 @@ void VantraStyleHelperToolButton::drawPanel(const VantraStyleOptionToolButton &o
     // A plain icon button shows a small plate while it is checked.
     if (!option.icon.isNull() && option.buttonStyle == VantraToolButton::IconStyle &&
         option.state.testFlag(QStyle::State_On)) {
-        const VantraPainterSaver saver(painter);
-        const int radius = mTheme->toolButtonIconBackgroundRadius(&option);
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setBrush(mTheme->toolButtonIconBackgroundBrush(&option));
-        painter->setPen(Qt::NoPen);
-        painter->drawRoundedRect(option.rect, radius, radius, Qt::AbsoluteSize);
+        VantraStamp::fillRounded(painter, option.rect, mTheme->toolButtonIconBackgroundRadius(&option),
+                                 mTheme->toolButtonIconBackgroundBrush(&option));
     }
 }
 
