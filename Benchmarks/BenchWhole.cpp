@@ -4,6 +4,7 @@
 
 #include "Style/VantraStyle.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QStringListModel>
 #include <QtGui/QImage>
@@ -22,10 +23,6 @@
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
-
-#if defined(Q_OS_UNIX)
-#include <sys/resource.h>
-#endif
 
 #include <cstdio>
 
@@ -218,11 +215,16 @@ void printPeakMemory()
     QImage image(1200, 700, QImage::Format_ARGB32_Premultiplied);
     renderTo(image, *window);
     renderTo(image, *view);
-#if defined(Q_OS_UNIX)
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    std::printf("%ld\n", usage.ru_maxrss);
-#endif
+    // The peak of this program alone; what rusage tells can be that of the process that started it.
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        const QList<QByteArray> lines = status.readAll().split('\n');
+        for (const QByteArray &line : lines) {
+            if (line.startsWith("VmHWM:")) {
+                std::printf("%s\n", line.simplified().split(' ').value(1).constData());
+            }
+        }
+    }
 }
 
 void registerWhole()

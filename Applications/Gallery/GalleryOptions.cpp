@@ -13,6 +13,7 @@ const QString kAccent = QStringLiteral("accent");
 const QString kTextSize = QStringLiteral("text-size");
 const QString kScale = QStringLiteral("scale");
 const QString kStyle = QStringLiteral("style");
+const QString kContrast = QStringLiteral("contrast");
 const QString kDisabled = QStringLiteral("disabled");
 const QString kScreenshot = QStringLiteral("screenshot");
 const QString kAllScreenshots = QStringLiteral("all-screenshots");
@@ -34,6 +35,7 @@ void addOptions(QCommandLineParser &ioParser)
     ioParser.addOptions({
         {kPage, QStringLiteral("Begin with this page."), QStringLiteral("name")},
         {kListPages, QStringLiteral("Print the names of the pages, one a line.")},
+        {kContrast, QStringLiteral("Print the contrast ratios of texts on their grounds for the accent.")},
         {kAccent, QStringLiteral("Accent: %1.").arg(accentNames()), QStringLiteral("name"),
          QStringLiteral("blue")},
         {kTextSize, QStringLiteral("Points added to every text: 0, 2 or 4."), QStringLiteral("points"),
@@ -102,6 +104,11 @@ QString readTask(const QCommandLineParser &inParser, GalleryOptions &ioOptions)
 {
     const bool one = inParser.isSet(kScreenshot);
     const bool all = inParser.isSet(kAllScreenshots);
+    if (inParser.isSet(kContrast)) {
+        if (one || all)
+            return QStringLiteral("--contrast prints and takes no screenshots");
+        ioOptions.task = GalleryOptions::Task::Contrast;
+    }
     if (one && all)
         return QStringLiteral("--screenshot and --all-screenshots can't be had together");
     if (all && (inParser.isSet(kPage) || inParser.isSet(kScale)))

@@ -8,9 +8,9 @@
 
 struct GalleryOptions
 {
-    // What the program is asked to do. Print and Refuse carry a text: for the standard output and exit code
-    // 0, and for the standard error and exit code 2.
-    enum class Task { ShowWindow, Screenshot, AllScreenshots, Print, Refuse };
+    // What the program is asked to do. Contrast lists ratios; Print and Refuse carry a text: for the standard
+    // output and exit code 0, and for the standard error and exit code 2.
+    enum class Task { ShowWindow, Screenshot, AllScreenshots, Contrast, Print, Refuse };
 
     Task task = Task::ShowWindow;
     QString text;

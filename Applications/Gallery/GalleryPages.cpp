@@ -9,6 +9,9 @@ GalleryPage *makePalettePage(QWidget *inParent);
 GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
+GalleryPage *makeSlidersPage(QWidget *inParent);
+GalleryPage *makeItemViewsPage(QWidget *inParent);
+GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
 GalleryPage *makeMetricsPage(QWidget *inParent);
 
@@ -18,6 +21,9 @@ constexpr GalleryPageEntry kPages[] = {
     {"type", "Type", &makeTypePage},
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
+    {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
+    {"item-views", "Item views", &makeItemViewsPage},
+    {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
     {"metrics", "Metrics", &makeMetricsPage},
 };

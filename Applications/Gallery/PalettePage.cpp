@@ -1,5 +1,7 @@
 #include "GalleryPage.h"
 
+#include "ContrastTable.h"
+
 #include "Theme/VantraFont.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -85,6 +87,66 @@ private:
     VantraPalette::PaletteRole mRole;
 };
 
+// Shows one pair of roles in one group: a text on its ground, and the ratio of the two.
+class ContrastSwatch : public QWidget
+{
+public:
+    ContrastSwatch(const Contrast::Pair &inPair, VantraPalette::PaletteGroup inGroup)
+        : mPair(inPair), mGroup(inGroup)
+    {
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+
+    QSize sizeHint() const override
+    {
+        const QFontMetrics metrics(lowFont());
+        return QSize(kFieldWidth + kSpacing + metrics.horizontalAdvance(captionOf(Contrast::kEnough - 0.1)),
+                     metrics.height() + 6);
+    }
+
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        const auto colors = Contrast::colorsOf(mPair, mGroup);
+        QPainter painter(this);
+        painter.setFont(VantraFont::smallFontPlus());
+        const QRect field(0, 0, kFieldWidth, height());
+        if (colors) {
+            painter.fillRect(field, colors->ground);
+            painter.setPen(colors->text);
+            painter.drawText(field, Qt::AlignCenter, QStringLiteral("Text"));
+        }
+        if (colors && colors->ratio() < Contrast::kEnough)
+            painter.setFont(lowFont());
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(rect().adjusted(kFieldWidth + kSpacing, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                         colors ? captionOf(colors->ratio()) : QStringLiteral("no entry"));
+    }
+
+private:
+    // Marks what is hard to read.
+    static QFont lowFont()
+    {
+        QFont font = VantraFont::smallFontPlus();
+        font.setWeight(QFont::Bold);
+        return font;
+    }
+
+    static QString captionOf(double inRatio)
+    {
+        const QString text = QString::number(inRatio, 'f', 2);
+        return inRatio < Contrast::kEnough ? text + QStringLiteral(", low") : text;
+    }
+
+    static constexpr int kFieldWidth = 48;
+    static constexpr int kSpacing = 8;
+
+    Contrast::Pair mPair;
+    VantraPalette::PaletteGroup mGroup;
+};
+
 class PalettePage : public GalleryPage
 {
 public:
@@ -107,26 +169,51 @@ public:
         body->addWidget(mFilter);
         body->addSpacing(8);
 
-        mGrid = new QGridLayout;
-        mGrid->setHorizontalSpacing(20);
-        mGrid->setVerticalSpacing(6);
-        body->addLayout(mGrid);
-        addHeader();
+        mGrid = addGrid(body, QStringLiteral("Role"));
         for (int index = 0; index < roles.keyCount(); ++index)
             addRow(index + 1, static_cast<VantraPalette::PaletteRole>(roles.value(index)),
                    QLatin1String(roles.key(index)));
+        addContrast();
     }
 
 private:
-    void addHeader()
+    // A grid with a column of titles and one for each group, the heading in its first row.
+    QGridLayout *addGrid(QVBoxLayout *ioLayout, const QString &inTitle)
     {
         const QMetaEnum groups = QMetaEnum::fromType<VantraPalette::PaletteGroup>();
-        mGrid->addWidget(new HouseLabel(QStringLiteral("Role"), &VantraFont::mainFont, QFont::Bold), 0, 0);
+        auto *grid = new QGridLayout;
+        grid->setHorizontalSpacing(20);
+        grid->setVerticalSpacing(6);
+        ioLayout->addLayout(grid);
+        grid->addWidget(new HouseLabel(inTitle, &VantraFont::mainFont, QFont::Bold), 0, 0);
         for (int index = 0; index < groups.keyCount(); ++index) {
             const QString title =
                 QStringLiteral("%1 (%2)").arg(QLatin1String(groups.key(index))).arg(groups.value(index));
-            mGrid->addWidget(new HouseLabel(title, &VantraFont::mainFont, QFont::Bold), 0, index + 1);
-            mGrid->setColumnStretch(index + 1, 1);
+            grid->addWidget(new HouseLabel(title, &VantraFont::mainFont, QFont::Bold), 0, index + 1);
+            grid->setColumnStretch(index + 1, 1);
+        }
+        return grid;
+    }
+
+    void addContrast()
+    {
+        const QMetaEnum groups = QMetaEnum::fromType<VantraPalette::PaletteGroup>();
+        QGridLayout *grid =
+            addGrid(addSection(QStringLiteral("Contrast"),
+                               QStringLiteral(
+                                   "How far each text stands out from its ground, from 1 to 21. Running text "
+                                   "should reach %1; what is disabled need not. Overlay menus are taken over "
+                                   "mid grey, other translucent grounds over the window.")
+                                   .arg(Contrast::kEnough)),
+                    QStringLiteral("Pair"));
+        int row = 1;
+        for (const Contrast::Pair &pair : Contrast::pairs()) {
+            grid->addWidget(new HouseLabel(Contrast::nameOf(pair), &VantraFont::mainFont), row, 0);
+            for (int index = 0; index < groups.keyCount(); ++index)
+                grid->addWidget(
+                    new ContrastSwatch(pair, static_cast<VantraPalette::PaletteGroup>(groups.value(index))),
+                    row, index + 1);
+            ++row;
         }
     }
 

@@ -162,7 +162,7 @@ void addSpinBoxes(QVBoxLayout *ioLayout)
     grid.add(QStringLiteral("QDateTimeEdit"), dateTime);
     auto *calendar = new QDateEdit(QDate(2024, 2, 29));
     calendar->setCalendarPopup(true);
-    calendar->setMinimumWidth(110);
+    calendar->setMinimumWidth(140);
     grid.add(QStringLiteral("QDateEdit, calendar"), calendar);
     auto *natural = new QSpinBox;
     natural->setValue(42);

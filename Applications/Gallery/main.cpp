@@ -1,7 +1,9 @@
+#include "ContrastTable.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryScreenshot.h"
 #include "GalleryWindow.h"
+#include "Theme/VantraStyleTheme.h"
 
 #include <QtWidgets/QApplication>
 
@@ -28,6 +30,10 @@ std::optional<int> runWithoutWindows(int inCount, char **inValues, GalleryOption
     switch (outOptions.task) {
     case GalleryOptions::Task::Refuse: return refuse(outOptions.text);
     case GalleryOptions::Task::Print: std::fputs(qPrintable(outOptions.text), stdout); return 0;
+    case GalleryOptions::Task::Contrast:
+        VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), outOptions.accent);
+        std::fputs(qPrintable(Contrast::table()), stdout);
+        return 0;
     case GalleryOptions::Task::AllScreenshots:
         refusal = GalleryScreenshot::writeAll(outOptions);
         return refusal.isEmpty() ? 0 : refuse(refusal);

@@ -1,3 +1,4 @@
+#include "../../Applications/Gallery/ContrastTable.h"
 #include "Theme/VantraFont.h"
 
 #include <QtCore/QDir>
@@ -92,6 +93,22 @@ private slots:
             QCOMPARE(result.exitCode, 0);
             QVERIFY(!result.out.isEmpty());
             QVERIFY2(result.err.isEmpty(), qPrintable(result.err));
+        }
+    }
+
+    void listsContrastOfTextsOnTheirGrounds()
+    {
+        QCOMPARE(Contrast::ratio(Qt::white, Qt::black), 21.0);
+        QCOMPARE(QString::number(Contrast::ratio(0x777777, Qt::white), 'f', 2), QStringLiteral("4.48"));
+        QCOMPARE(Contrast::ratio(Contrast::over(QColor(9, 9, 9, 0), Qt::white), Qt::white), 1.0);
+        const QStringList lines =
+            gallery({QStringLiteral("--contrast")}, true).out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QVERIFY(lines.size() > 60);
+        const QRegularExpression pattern(QStringLiteral("^\\w+ on \\w+ +\\w+ +([\\d.]+)(  below 4.5)?$"));
+        for (const QString &line : lines) {
+            const QRegularExpressionMatch match = pattern.match(line);
+            QVERIFY2(match.hasMatch(), qPrintable(line));
+            QVERIFY2((match.captured(1).toDouble() < 4.5) == !match.captured(2).isEmpty(), qPrintable(line));
         }
     }
 

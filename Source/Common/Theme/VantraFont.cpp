@@ -3,7 +3,7 @@
 #include "VTDpiUtils.h"
 #include "VTQtSysInfo.h"
 
-#include <QtCore/QMetaEnum>
+#include <QtCore/QResource>
 #include <QtCore/QVariant>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QWidget>
@@ -16,6 +16,17 @@ constexpr const char *kFontFiles[] = {
     "Roboto-Regular.ttf",     "Roboto-RegularItalic.ttf", "Roboto-Thin.ttf",   "Roboto-ThinItalic.ttf",
     "FontAwesome6ProReg.ttf",
 };
+
+// Registers a font of the resources without a copy: read as a file, each would lie in memory twice.
+int addFont(const QString &inPath)
+{
+    const QResource resource(inPath);
+    if (!resource.isValid() || resource.compressionAlgorithm() != QResource::NoCompression) {
+        return QFontDatabase::addApplicationFont(inPath);
+    }
+    return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(
+        reinterpret_cast<const char *>(resource.data()), static_cast<qsizetype>(resource.size())));
+}
 
 // The controls stand above the type, so they are told apart by their meta-objects.
 bool keepsItsOwnFont(const QWidget *inWidget)
@@ -92,8 +103,7 @@ bool VantraFont::loadApplicationFonts()
     Q_ASSERT(sFontIDs.size() == 0 && "VantraFont::loadApplicationFonts should only be called once.");
     bool result = true;
     for (const char *file : kFontFiles) {
-        const int id =
-            QFontDatabase::addApplicationFont(QLatin1String(":/VTWidgets/Fonts/") + QLatin1String(file));
+        const int id = addFont(QLatin1String(":/VTWidgets/Fonts/") + QLatin1String(file));
         const bool validFont = id != -1;
         Q_ASSERT(validFont && "Failed to add all application fonts");
         if (validFont) {

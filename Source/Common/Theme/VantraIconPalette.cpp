@@ -51,10 +51,23 @@ public:
         append(static_cast<int>(inState));
     }
 
+    void append(const QColor &inColor)
+    {
+        append(inColor.red());
+        append(inColor.green());
+        append(inColor.blue());
+    }
+
+    // The key without a copy, valid as long as the writer.
+    QString view() const { return QString::fromRawData(mText, mEnd - mText); }
+
+    QString key() const { return QString(mText, mEnd - mText); }
+
+private:
     void append(qint64 inValue)
     {
-        separate();
-        mEnd = std::to_chars(mEnd, std::end(mText), inValue).ptr;
+        char digits[24];
+        write(digits, std::to_chars(std::begin(digits), std::end(digits), inValue).ptr);
     }
 
     void append(int inValue) { append(static_cast<qint64>(inValue)); }
@@ -64,25 +77,22 @@ public:
         const int whole = static_cast<int>(inValue);
         if (inValue == whole) {
             append(whole);
-            return;
+        } else {
+            const QByteArray text = QByteArray::number(inValue);
+            write(text.constBegin(), text.constEnd());
         }
-        separate();
-        const QByteArray text = QByteArray::number(inValue);
-        mEnd = std::copy(text.begin(), text.end(), mEnd);
     }
 
-    QString key() const { return QString::fromLatin1(mText, mEnd - mText); }
-
-private:
-    void separate()
+    void write(const char *inBegin, const char *inEnd)
     {
         if (mEnd != mText) {
-            *mEnd++ = '-';
+            *mEnd++ = QLatin1Char('-');
         }
+        mEnd = std::transform(inBegin, inEnd, mEnd, [](char character) { return QLatin1Char(character); });
     }
 
-    char mText[160]; // nine fields of at most 20 characters, the last three of at most 3
-    char *mEnd = mText;
+    QChar mText[160]; // nine fields of at most 20 characters, the last three of at most 3
+    QChar *mEnd = mText;
 };
 
 QImage tinted(const QPixmap &inPixmap, const QColor &inColor)
@@ -105,10 +115,12 @@ QPixmap VantraIconPalette::tintPixmap(const QIcon &inIcon, const QSize &inSize, 
                                       const QColor &inForeground, const QColor &inAlternate) const
 {
     const QColor *tint = chooseTint(inTinting, inMode, inState, inForeground, inAlternate);
-    const QString key = tint != nullptr ? cacheKey(inIcon, inSize, inDevicePixelRatio, inMode, inState, *tint)
-                                        : cacheKey(inIcon, inSize, inDevicePixelRatio, inMode, inState);
+    KeyWriter key(inIcon, inSize, inDevicePixelRatio, inMode, inState);
+    if (tint != nullptr) {
+        key.append(*tint);
+    }
     QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap)) {
+    if (QPixmapCache::find(key.view(), &pixmap)) {
         return pixmap;
     }
     pixmap = inIcon.pixmap(inSize, inDevicePixelRatio, inMode, inState);
@@ -116,7 +128,10 @@ QPixmap VantraIconPalette::tintPixmap(const QIcon &inIcon, const QSize &inSize, 
         pixmap = QPixmap::fromImage(tinted(pixmap, *tint));
     }
     pixmap.setDevicePixelRatio(inDevicePixelRatio);
-    QPixmapCache::insert(key, pixmap);
+    QPixmapCache::insert(tint != nullptr
+                             ? cacheKey(inIcon, inSize, inDevicePixelRatio, inMode, inState, *tint)
+                             : cacheKey(inIcon, inSize, inDevicePixelRatio, inMode, inState),
+                         pixmap);
     return pixmap;
 }
 
@@ -130,8 +145,6 @@ QString VantraIconPalette::cacheKey(const QIcon &inIcon, const QSize &inSize, do
                                     QIcon::Mode inMode, QIcon::State inState, const QColor &inColor) const
 {
     KeyWriter writer(inIcon, inSize, inDevicePixelRatio, inMode, inState);
-    writer.append(inColor.red());
-    writer.append(inColor.green());
-    writer.append(inColor.blue());
+    writer.append(inColor);
     return writer.key();
 }

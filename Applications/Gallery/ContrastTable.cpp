@@ -1,0 +1,95 @@
+#include "ContrastTable.h"
+
+#include "Theme/VantraStyleTheme.h"
+
+#include <QtCore/QMetaEnum>
+
+namespace {
+// Where translucent grounds are looked at: menus over the picture, which may be anything, and what has no
+// ground of its own on the window.
+QColor whatLiesBelow(VantraPalette::PaletteRole inGround, VantraPalette::PaletteGroup inGroup)
+{
+    if (inGround == VantraPalette::OverlayMenuBackground)
+        return QColor(128, 128, 128);
+    return VantraStyleTheme::instance().colorPalette().color(inGroup, VantraPalette::WindowBackground);
+}
+} // namespace
+
+const QList<Contrast::Pair> &Contrast::pairs()
+{
+    using P = VantraPalette;
+    static const QList<Pair> sPairs = {
+        {P::WindowText, P::WindowBackground},
+        {P::HighlightedText, P::HighlightedTextBackground},
+        {P::ButtonText, P::ButtonBackground},
+        {P::AlternateButtonText, P::AlternateButtonBackground},
+        {P::AccentButtonText, P::AccentButtonBackground},
+        {P::AccentButtonText, P::BlueAccentButtonBackground},
+        {P::AccentButtonText, P::GreenAccentButtonBackground},
+        {P::AccentButtonText, P::OrangeAccentButtonBackground},
+        {P::AccentButtonText, P::PurpleAccentButtonBackground},
+        {P::AccentButtonText, P::RedAccentButtonBackground},
+        {P::TobButtonText, P::TobButtonBackground},
+        {P::TabButtonText, P::TabButtonBackground},
+        {P::TabBarText, P::TabBarBackground},
+        {P::MenuItemText, P::MenuBackground},
+        {P::MenuItemText, P::OverlayMenuBackground},
+        {P::Checkmark, P::MenuBackground},
+        {P::SpinBoxText, P::SpinBoxBackground},
+        {P::ComboBoxText, P::ComboBoxBackground},
+        {P::LineEditText, P::LineEditBackgroundNone},
+        {P::LineEditText, P::LineEditBackground},
+        {P::LineEditText, P::TokenBoxBackground},
+        {P::ToolButtonText, P::WindowBackground},
+        {P::ModuleToolButtonText, P::WindowBackground},
+        {P::PaneHeaderText, P::PaneBackground},
+        {P::ListPaneHeaderText, P::PaneBackground},
+        {P::SubPaneHeaderText, P::PaneBackground},
+        {P::GroupBoxText, P::GroupBoxFrameBackground},
+        {P::ViewItemText, P::ViewItemBackground},
+        {P::ViewItemText, P::CategoryViewItemBackground},
+    };
+    return sPairs;
+}
+
+QString Contrast::nameOf(const Pair &inPair)
+{
+    const QMetaEnum roles = QMetaEnum::fromType<VantraPalette::PaletteRole>();
+    return QStringLiteral("%1 on %2")
+        .arg(QLatin1String(roles.valueToKey(inPair.text)), QLatin1String(roles.valueToKey(inPair.ground)));
+}
+
+std::optional<Contrast::Colors> Contrast::colorsOf(const Pair &inPair, VantraPalette::PaletteGroup inGroup)
+{
+    const VantraColorPalette &palette = VantraStyleTheme::instance().colorPalette();
+    // The window knows no hover: what lies on it is highlighted alone.
+    const VantraPalette::PaletteGroup windowGroup =
+        inGroup == VantraPalette::Disabled ? VantraPalette::Disabled : VantraPalette::Normal;
+    const VantraPalette::PaletteGroup groundGroup =
+        inPair.ground == VantraPalette::WindowBackground ? windowGroup : inGroup;
+    if (!palette.contains(inGroup, inPair.text) || !palette.contains(groundGroup, inPair.ground))
+        return std::nullopt;
+    const QColor ground =
+        over(palette.color(groundGroup, inPair.ground), whatLiesBelow(inPair.ground, windowGroup));
+    return Colors{over(palette.color(inGroup, inPair.text), ground), ground};
+}
+
+QString Contrast::table()
+{
+    const QMetaEnum groups = QMetaEnum::fromType<VantraPalette::PaletteGroup>();
+    QString text;
+    for (const Pair &pair : pairs()) {
+        for (int index = 0; index < groups.keyCount(); ++index) {
+            const auto colors = colorsOf(pair, static_cast<VantraPalette::PaletteGroup>(groups.value(index)));
+            if (!colors)
+                continue;
+            const double value = colors->ratio();
+            text += QStringLiteral("%1  %2  %3%4\n")
+                        .arg(nameOf(pair), -48)
+                        .arg(QLatin1String(groups.key(index)), -11)
+                        .arg(value, 5, 'f', 2)
+                        .arg(value < kEnough ? QStringLiteral("  below %1").arg(kEnough) : QString());
+        }
+    }
+    return text;
+}
