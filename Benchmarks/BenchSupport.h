@@ -26,8 +26,8 @@ constexpr int kRounds = 150;
 void paired(benchmark::State &state, const Work &inOurs, const Work &inReference, int inBatch,
             double inTarget = 0.0);
 
-// The same for work that depends on the application's style: it runs under a new style of ours and under Fusion,
-// one call in turn. Ends with ours.
+// The same for work that depends on the application's style: it runs under a new style of ours and under
+// Fusion, one call in turn. Ends with ours.
 void pairedApplicationStyles(benchmark::State &state, const Work &inWork, double inTarget);
 
 // A widget with what paints it: made once for our style and once for Fusion.
@@ -47,8 +47,8 @@ void registerStyle();
 void registerStart();
 void registerWhole();
 
-// Shows a window of controls and a long list under the application's style, and prints the most memory that the
-// process has held, in KiB; nothing where the system can't tell.
+// Shows a window of controls and a long list under the application's style, and prints the most memory that
+// the process has held, in KiB; nothing where the system can't tell.
 void printPeakMemory();
 
 } // namespace Bench

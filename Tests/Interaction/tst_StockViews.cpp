@@ -1,5 +1,4 @@
 #include "Interaction/UserActions.h"
-#include "Style/VantraStyle.h"
 #include "Support/FatalTest.h"
 #include "Support/ThemeFixture.h"
 
@@ -26,12 +25,14 @@ private slots:
     void itemIsCheckedAndEdited();
     void branchOpensAndCloses();
     void rowsAreDraggedAndDropped();
+    void iconsStandAboveTheirTexts();
 };
 
 void tst_StockViews::initTestCase()
 {
     QVERIFY(ThemeFixture::load());
-    QApplication::setStyle(new VantraStyle);
+    QCoreApplication::addLibraryPath(PLUGIN_FOLDER);
+    QVERIFY(QApplication::setStyle(QStringLiteral("Vantra")) != nullptr);
 }
 
 namespace {
@@ -253,6 +254,23 @@ void tst_StockViews::rowsAreDraggedAndDropped()
     QCoreApplication::sendEvent(list.viewport(), &drop);
     QCOMPARE(list.count(), 5);
     QCOMPARE(list.item(3)->text(), QStringLiteral("a"));
+}
+
+void tst_StockViews::iconsStandAboveTheirTexts()
+{
+    QPixmap pixmap(32, 32);
+    pixmap.fill(Qt::green);
+    QListWidget list;
+    list.setViewMode(QListView::IconMode);
+    list.addItem(new QListWidgetItem(QIcon(pixmap), "Picture"));
+    list.setIconSize(QSize(32, 32));
+    list.resize(200, 150);
+    QVERIFY(showActive(list));
+    const QRect item = list.visualItemRect(list.item(0));
+    QVERIFY(item.height() > 32 + list.fontMetrics().height());
+    QVERIFY(list.grab().toImage().pixelColor(item.center().x(), item.top() + 10).green() > 200);
+    click(list.viewport(), item.center());
+    QVERIFY(list.item(0)->isSelected());
 }
 
 FATAL_TEST_MAIN(tst_StockViews)
