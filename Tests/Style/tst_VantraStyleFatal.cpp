@@ -1,7 +1,6 @@
 #include "Style/VantraStyle.h"
-#include "StyleOptions/VantraStyleOptionSlider.h"
-#include "StyleOptions/VantraStyleOptionViewItem.h"
 #include "Support/FatalTest.h"
+#include "Support/StyleSamples.h"
 #include "Support/ThemeFixture.h"
 
 #include <QtGui/QPainter>
@@ -104,37 +103,29 @@ class tst_VantraStyleFatal : public QObject
     Q_OBJECT
 
 private slots:
-    void stopsWithItsWords_data();
-    void stopsWithItsWords();
-    void goesOnWhereNothingIsWrong();
+    // The handle's two conditions hold for every option, since its size comes from the theme alone; and no
+    // option asks for corners that the rounded fill doesn't know.
+    void stopsWithItsWords_data()
+    {
+        QTest::addColumn<QString>("words");
+        for (const char *name :
+             {"itemDecoratedOnTheRight", "branchDecoratedOnTheRight", "itemPanelDecoratedOnTheRight",
+              "rowPanelDecoratedOnTheRight", "textRectDecoratedOnTheRight", "sizeDecoratedOnTheRight"}) {
+            QTest::newRow(name) << QString(kDecorationWords);
+        }
+        QTest::newRow("sliderWithoutRect") << "(option != nullptr) && grooveRect.isValid()";
+        QTest::newRow("sliderOfOneColumn") << "adjRect.isValid() && !adjRect.isNull()";
+        QTest::newRow("sliderInAMuchTallerWidget") << "adjRect.isValid() && !adjRect.isNull()";
+    }
+
+    void stopsWithItsWords() { QTEST(FatalTest::assertionOf(QTest::currentDataTag()), "words"); }
+
+    void goesOnWhereNothingIsWrong()
+    {
+        const FatalTest::Outcome outcome = FatalTest::run("sliderThatFits");
+        QVERIFY2(!outcome.aborted, qPrintable(outcome.output));
+    }
 };
 
-// The handle's two conditions hold for every option, since its size comes from the theme alone; and no option
-// asks for corners that the rounded fill doesn't know.
-void tst_VantraStyleFatal::stopsWithItsWords_data()
-{
-    QTest::addColumn<QString>("words");
-    for (const char *name :
-         {"itemDecoratedOnTheRight", "branchDecoratedOnTheRight", "itemPanelDecoratedOnTheRight",
-          "rowPanelDecoratedOnTheRight", "textRectDecoratedOnTheRight", "sizeDecoratedOnTheRight"}) {
-        QTest::newRow(name) << QString(kDecorationWords);
-    }
-    QTest::newRow("sliderWithoutRect") << "(option != nullptr) && grooveRect.isValid()";
-    QTest::newRow("sliderOfOneColumn") << "adjRect.isValid() && !adjRect.isNull()";
-    QTest::newRow("sliderInAMuchTallerWidget") << "adjRect.isValid() && !adjRect.isNull()";
-}
-
-void tst_VantraStyleFatal::stopsWithItsWords()
-{
-    QTEST(FatalTest::assertionOf(QTest::currentDataTag()), "words");
-}
-
-void tst_VantraStyleFatal::goesOnWhereNothingIsWrong()
-{
-    const FatalTest::Outcome outcome = FatalTest::run("sliderThatFits");
-    QVERIFY2(!outcome.aborted, qPrintable(outcome.output));
-}
-
 FATAL_TEST_MAIN(tst_VantraStyleFatal)
-
 #include "tst_VantraStyleFatal.moc"

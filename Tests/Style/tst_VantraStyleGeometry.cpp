@@ -1,94 +1,44 @@
 #include "Style/VantraStyle.h"
-#include "StyleOptions/VantraStyleOptionSlider.h"
-#include "StyleOptions/VantraStyleOptionViewItem.h"
 #include "Support/DataRows.h"
 #include "Support/FatalTest.h"
+#include "Support/StyleSamples.h"
 #include "Support/ThemeFixture.h"
 #include "Theme/VantraFont.h"
 
-#include <QtCore/QMetaEnum>
 #include <QtWidgets/QtWidgets>
 
 #include <cmath>
 #include <memory>
 
+using namespace StyleSamples;
+
 namespace {
 
-const QString kText("Wide");
+const QString kWord("Wide");
 constexpr int kArrow = 16;
 
-QIcon icon()
-{
-    QPixmap pixmap(64, 64);
-    pixmap.fill(Qt::white);
-    return QIcon(pixmap);
-}
-
-QFontMetrics metrics(int inDesignSize, QFont::Weight inWeight = QFont::Black, QFont inBase = QFont())
+// Sizes are measured in the heaviest weight.
+QFontMetrics metrics(int inDesignSize, QFont inBase = QFont())
 {
     inBase.setPointSize(VantraFont::scaledPointSize(inDesignSize));
-    inBase.setWeight(inWeight);
+    inBase.setWeight(QFont::Black);
     return QFontMetrics(inBase);
 }
 
 // A text with the 4 pixels that each gets.
-QSize padded(const QFontMetrics &inMetrics, const QString &inText = kText)
+QSize padded(const QFontMetrics &inMetrics)
 {
-    return inMetrics.size(0, inText) + QSize(4, 0);
-}
-
-struct MetricRow
-{
-    const char *name;
-    int answer;
-};
-
-constexpr MetricRow kMetrics[] = {
-    {"PM_ButtonMargin", 0},
-    {"PM_ButtonShiftHorizontal", 0},
-    {"PM_ButtonShiftVertical", 0},
-    {"PM_DefaultFrameWidth", 0},
-    {"PM_TabBarBaseOverlap", 0},
-    {"PM_FocusFrameVMargin", 0},
-    {"PM_FocusFrameHMargin", 0},
-    {"PM_ScrollView_ScrollBarSpacing", 0},
-    {"PM_ScrollView_ScrollBarOverlap", 0},
-    {"PM_SpinBoxFrameWidth", 16},
-    {"PM_ScrollBarExtent", 8},
-    {"PM_ScrollBarSliderMin", 32},
-    {"PM_SliderThickness", 22},
-    {"PM_SliderControlThickness", 4},
-    {"PM_SliderLength", 100},
-    {"PM_TabBarTabHSpace", 10},
-    {"PM_ProgressBarChunkWidth", 9},
-    {"PM_IndicatorWidth", 16},
-    {"PM_IndicatorHeight", 16},
-    {"PM_ExclusiveIndicatorWidth", 16},
-    {"PM_ExclusiveIndicatorHeight", 16},
-};
-
-constexpr MetricRow kMenuMetrics[] = {
-    {"PM_MenuHMargin", 0},    {"PM_MenuPanelWidth", 0}, {"PM_MenuDesktopFrameWidth", 0},
-    {"PM_SubMenuOverlap", 0}, {"PM_MenuVMargin", 4},
-};
-
-QStyle::PixelMetric currentMetric()
-{
-    const int value = QMetaEnum::fromType<QStyle::PixelMetric>().keyToValue(QTest::currentDataTag());
-    return static_cast<QStyle::PixelMetric>(value);
+    return inMetrics.size(0, kWord) + QSize(4, 0);
 }
 
 struct ViewItemRow
 {
     const char *name;
-    bool decorated;
-    bool checkable;
-    bool indented;
+    bool decorated, checkable, indented;
     QString text;
     QSize size;
     // In an item from (10, 20), 200 wide and 31 high.
-    QRect decorationRect;
-    QRect checkRect;
+    QRect decorationRect, checkRect;
     int textLeft;
 };
 
@@ -99,54 +49,33 @@ std::vector<ViewItemRow> viewItemRows()
     const QRect decoration(10, 29, 22, 12);
     return {
         {"nothing", false, false, false, "", {22, 4}, {}, {}, 10},
-        {"text", false, false, false, kText, {text.width(), text.height() + 4}, {}, {}, 10},
-        {"indented text", false, false, true, kText, {text.width(), text.height() + 4}, {}, {}, 20},
+        {"indented text", false, false, true, kWord, {text.width(), text.height() + 4}, {}, {}, 20},
         {"decoration", true, false, true, "", {22, 16}, decoration, {}, 31 + 4},
         {"check", false, true, true, "", {16, 20}, {}, {10, 27, 16, 16}, 25 + 4},
         {"decoration and check", true, true, false, "", {42, 20}, decoration, {35, 27, 16, 16}, 50 + 4},
-        {"all", true, true, false, kText, all, decoration, {35, 27, 16, 16}, 50 + 4},
+        {"all", true, true, false, kWord, all, decoration, {35, 27, 16, 16}, 50 + 4},
     };
 }
 
 struct ProgressRow
 {
     const char *name;
-    QRect rect;
-    int minimum;
-    int maximum;
-    int progress;
-    QRect groove;
-    QRect contents;
+    int minimum, maximum, progress;
+    QRect contents; // of a bar 200 by 31
 };
 
-std::vector<ProgressRow> progressRows()
-{
-    const QRect rect(0, 0, 200, 31);
-    const QRect groove(0, 11, 200, 8);
-    const QRect low(0, 0, 100, 8);
-    const QRect thin(10, 5, 100, 6);
-    return {
-        {"quarter", rect, 0, 100, 25, groove, {0, 11, 50, 8}},
-        {"start", rect, 0, 100, 0, groove, {0, 11, 0, 8}},
-        {"end", rect, 0, 100, 100, groove, groove},
-        {"not begun", rect, 0, 100, -1, groove, {}},
-        {"beyond", rect, 0, 100, 150, groove, {0, 11, 300, 8}},
-        {"whole pixels", low, 0, 3, 1, low, {0, 0, 34, 8}},
-        {"thin, elsewhere", thin, -50, 50, 0, thin, {10, 5, 50, 6}},
-        {"large numbers", rect, INT_MIN, INT_MAX, 0, groove, {0, 11, 101, 8}},
-    };
-}
+const ProgressRow kProgress[] = {
+    {"quarter", 0, 100, 25, {0, 11, 50, 8}},          {"not begun", 0, 100, -1, {}},
+    {"beyond", 0, 100, 150, {0, 11, 300, 8}},         {"whole pixels", 0, 3, 1, {0, 11, 67, 8}},
+    {"from below zero", -50, 50, 0, {0, 11, 100, 8}}, {"large numbers", INT_MIN, INT_MAX, 0, {0, 11, 101, 8}},
+};
 
 struct ScrollBarRow
 {
     const char *name;
-    int extent;
-    int maximum;
-    int page;
-    int value;
+    int extent, maximum, page, value;
     bool upsideDown;
-    int position;
-    int length;
+    int position, length;
 };
 
 constexpr ScrollBarRow kScrollBars[] = {
@@ -160,55 +89,6 @@ constexpr ScrollBarRow kScrollBars[] = {
     {"large numbers", 200, INT_MAX, INT_MAX, 0, false, 0, 100},
 };
 
-struct HandleRow
-{
-    const char *name;
-    bool grows;
-    QStyle::State state;
-    bool upsideDown;
-    QRect rect;
-};
-
-const HandleRow kHandles[] = {
-    {"plain", true, QStyle::State_Enabled, false, {25, 5, 12, 12}},
-    {"hovered", true, QStyle::State_Enabled | QStyle::State_MouseOver, false, {24, 3, 16, 16}},
-    {"pressed", true, QStyle::State_Enabled | QStyle::State_On, false, {24, 3, 16, 16}},
-    {"disabled", true, QStyle::State_MouseOver, false, {25, 5, 12, 12}},
-    {"not growing", false, QStyle::State_Enabled | QStyle::State_MouseOver, false, {25, 5, 12, 12}},
-    {"upside down", false, QStyle::State_Enabled, true, {75, 5, 12, 12}},
-};
-
-struct ComboBoxPartRow
-{
-    const char *name;
-    QStyle::SubControl part;
-    bool editable;
-    QRect rect;
-};
-
-// An empty pill is 40 by 24 with ends of 12, whatever the option's own size.
-const ComboBoxPartRow kComboBoxParts[] = {
-    {"frame", QStyle::SC_ComboBoxFrame, true, {10, 20, 40, 24}},
-    {"field without a text", QStyle::SC_ComboBoxEditField, true, {QPoint(22, 20), QPoint(309 - 28, 69)}},
-    {"arrow", QStyle::SC_ComboBoxArrow, true, {QPoint(49 - 28, 20), QPoint(49, 43)}},
-    {"fixed field", QStyle::SC_ComboBoxEditField, false, {10, 20, 40, 24}},
-    {"fixed arrow", QStyle::SC_ComboBoxArrow, false, {10, 20, 40, 24}},
-    {"popup", QStyle::SC_ComboBoxListBoxPopup, false, {10, 20, 300, 50}},
-    {"other", QStyle::SC_None, false, {10, 20, 300, 50}},
-};
-
-// A further style over ours, with scroll bars that lie over the contents.
-class TransientStyle : public QProxyStyle
-{
-public:
-    TransientStyle() : QProxyStyle(new VantraStyle) {}
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *data) const override
-    {
-        return hint == SH_ScrollBar_Transient ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
-
 } // namespace
 
 class tst_VantraStyleGeometry : public QObject
@@ -216,30 +96,295 @@ class tst_VantraStyleGeometry : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void metricsOfTheDesign_data() { DataRows::add(kMetrics); }
-    void metricsOfTheDesign();
-    void menuMetricsAreOfMenusAlone_data() { DataRows::add(kMenuMetrics); }
-    void menuMetricsAreOfMenusAlone();
-    void otherMetricsAreFusions();
-    void overlapFollowsTheHintOfAFurtherStyle();
+    void initTestCase()
+    {
+        QVERIFY(ThemeFixture::load());
+        mStyle = std::make_unique<VantraStyle>();
+    }
+
+    void buttonSize()
+    {
+        using B = VantraButton;
+        auto option = of<VantraStyleOptionButton>({60, 30}); // the size at hand sets the round ends
+        option.iconSize = QSize(16, 40);
+        const auto size = [&](B::ButtonStyle inLook) {
+            option.buttonStyle = inLook;
+            return sizeOf(QStyle::CT_PushButton, option);
+        };
+        QCOMPARE(size(B::LeftAndRightCapButtonStyle), QSize(30, 8));
+        option.text = kWord;
+        const QSize text = padded(metrics(11));
+        QCOMPARE(size(B::LeftCapButtonStyle), text.grownBy({15, 4, 4, 4}));
+        QCOMPARE(size(B::TextOnlyStyle), text.grownBy({0, 4, 0, 4}));
+        QCOMPARE(size(B::LeftCapTabButtonStyle), padded(metrics(14)).grownBy({5, 4, 4, 4}));
+        option.icon = icon();
+        QCOMPARE(size(B::RightCapButtonStyle), QSize(16 + 1 + text.width(), 40).grownBy({4, 4, 15, 4}));
+    }
+
+    void toolButtonSize()
+    {
+        using Tool = VantraToolButton;
+        VantraStyleOptionToolButton option;
+        option.arrowType = Qt::NoArrow;
+        option.text = kWord;
+        option.icon = icon();
+        const auto size = [&](Tool::BackgroundStyle inBackground, Qt::ToolButtonStyle inLook, QSize inIcon) {
+            option.backgroundStyle = inBackground;
+            option.toolButtonStyle = inLook;
+            option.iconSize = inIcon;
+            return sizeOf(QStyle::CT_ToolButton, option);
+        };
+        const auto plain = Tool::BackgroundStyleToolButton;
+        const QSize icon(24, 24);
+        const QSize text = padded(metrics(9));
+        QCOMPARE(size(plain, Qt::ToolButtonIconOnly, {10, 24}), icon); // never narrower than tall
+        QCOMPARE(size(plain, Qt::ToolButtonTextOnly, icon), text.expandedTo({text.height(), 0}));
+        QCOMPARE(size(plain, Qt::ToolButtonTextBesideIcon, icon),
+                 QSize(25 + text.width(), qMax(24, text.height())));
+        QCOMPARE(size(plain, Qt::ToolButtonTextUnderIcon, {90, 24}), QSize(90, 25 + text.height()));
+        const QSize large = QSize(24 + 1, 0) + padded(metrics(11));
+        const int high = qMax(24, large.height()) + 8;
+        const QSize bare(large.width() + 8, high);
+        const QSize pill(large.width() + high / 2 * 2, high);
+        QCOMPARE(size(Tool::BackgroundStyleComboBoxNone, Qt::ToolButtonTextBesideIcon, icon), bare);
+        QCOMPARE(size(Tool::BackgroundStyleComboBoxStandard, Qt::ToolButtonTextBesideIcon, icon), pill);
+        QCOMPARE(size(Tool::BackgroundStyleButton, Qt::ToolButtonIconOnly, icon), QSize(32, 32));
+        option.enlargeIconOnHover = true;
+        QCOMPARE(size(plain, Qt::ToolButtonIconOnly, {26, 22}), QSize(33, 28)); // halves away from zero
+        option.enlargeIconOnHover = false;
+        option.arrowType = Qt::DownArrow;
+        QCOMPARE(size(plain, Qt::ToolButtonIconOnly, icon), QSize(24 + 1 + kArrow, 24));
+    }
+
+    void menuItemSize()
+    {
+        using Item = QStyleOptionMenuItem;
+        QMenu menu;
+        Item option;
+        option.initFrom(&menu);
+        option.font = menu.font();
+        const auto size = [&](Item::MenuItemType inType, const QString &inText) {
+            option.menuItemType = inType;
+            option.text = inText;
+            return sizeOf(QStyle::CT_MenuItem, option, &menu);
+        };
+        const QFontMetrics bold = metrics(12, menu.font());
+        const int word = bold.horizontalAdvance(kWord);
+        const int column = QApplication::style()->pixelMetric(QStyle::PM_SmallIconSize);
+        const QSize plain(column + 4 + word + 4 + column + 8, qMax(column, bold.height()) + 4);
+        QCOMPARE(size(Item::Separator, kWord), QSize(2, 2));
+        QCOMPARE(size(Item::EmptyArea, kWord), QSize(0, 0));
+        QCOMPARE(size(Item::Normal, ""), plain - QSize(word + 4, 0));
+        QCOMPARE(size(Item::SubMenu, kWord), plain);
+        QCOMPARE(size(Item::Normal, "Wide\t"), plain);
+        QCOMPARE(size(Item::Normal, "Wide \t Ctrl+W"),
+                 plain + QSize(4 + bold.horizontalAdvance("Ctrl+W"), 0));
+        option.maxIconWidth = 40;
+        QCOMPARE(size(Item::Normal, kWord), QSize(40 + 4 + word + 4 + 40 + 8, 44));
+    }
+
+    void comboBoxSize()
+    {
+        VantraStyleOptionComboBox option;
+        const auto size = [&] { return sizeOf(QStyle::CT_ComboBox, option); };
+        const QSize text = padded(metrics(11));
+        const int high = qMax(text.height(), kArrow) + 8;
+        const int wide = text.width() + 1 + kArrow;
+        QCOMPARE(size(), QSize(kArrow + 24, kArrow + 8));
+        option.currentText = kWord;
+        QCOMPARE(size(), QSize(wide + high / 2 * 2, high));
+        option.backgroundStyle = VantraComboBoxBase::BackgroundStyleNone;
+        QCOMPARE(size(), QSize(wide + 8, high));
+        option.backgroundStyle = VantraComboBoxBase::BackgroundTransparent;
+        option.currentText.clear();
+        option.currentIcon = icon();
+        option.iconSize = QSize(20, 40);
+        QCOMPARE(size(), QSize(20 + 1 + kArrow + 45 / 2 * 2, 48));
+    }
+
+    void tabSize()
+    {
+        VantraStyleOptionTab option;
+        option.text = kWord;
+        const QSize text = padded(metrics(14, QApplication::font()));
+        QCOMPARE(sizeOf(QStyle::CT_TabBarTab, option), text + QSize(10, 8));
+        option.icon = icon();
+        option.iconSize = QSize(16, 50);
+        QCOMPARE(sizeOf(QStyle::CT_TabBarTab, option), QSize(16 + 1 + text.width() + 10, 58));
+    }
 
     void viewItem_data() { DataRows::add(viewItemRows()); }
-    void viewItem();
+    void viewItem()
+    {
+        const ViewItemRow row = DataRows::current(viewItemRows());
+        VantraStyleOptionViewItem option;
+        option.rect = QRect(10, 20, 200, 31);
+        option.direction = Qt::RightToLeft; // the design has one direction alone
+        option.decorationSize = QSize(16, 12);
+        option.icon = row.decorated ? icon() : QIcon();
+        option.features = QStyleOptionViewItem::HasDecoration; // which without an icon counts nothing
+        option.features.setFlag(QStyleOptionViewItem::HasCheckIndicator, row.checkable);
+        option.useIndent = row.indented;
+        option.text = row.text;
+        const auto rectOf = [&](QStyle::SubElement inPart) {
+            return mStyle->subElementRect(inPart, &option);
+        };
+        QCOMPARE(sizeOf(QStyle::CT_ItemViewItem, option), row.size);
+        QCOMPARE(rectOf(QStyle::SE_ItemViewItemDecoration), row.decorationRect);
+        QCOMPARE(rectOf(QStyle::SE_ItemViewItemCheckIndicator), row.checkRect);
+        QCOMPARE(rectOf(QStyle::SE_ItemViewItemText), QRect(QPoint(row.textLeft, 20), QPoint(209, 50)));
+    }
 
-    void buttonsAndSlidersUseAllTheirRect();
-    void progressRects_data() { DataRows::add(progressRows()); }
-    void progressRects();
-    void busyProgressFollowsTheCosine();
+    void progressRects_data() { DataRows::add(kProgress); }
+    void progressRects()
+    {
+        const ProgressRow row = DataRows::current(kProgress);
+        auto option = of<QStyleOptionProgressBar>({200, 31});
+        option.minimum = row.minimum;
+        option.maximum = row.maximum;
+        option.progress = row.progress;
+        QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarGroove, &option), QRect(0, 11, 200, 8));
+        QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarContents, &option), row.contents);
+        QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarLabel, &option), QRect());
+        option.rect = QRect(10, 5, 100, 6);
+        QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarGroove, &option), option.rect);
+    }
+
+    // For a second the contents grow from the left, for the next they leave to the right.
+    void busyProgressFollowsTheCosine()
+    {
+        QProgressBar bar;
+        const auto option = of<QStyleOptionProgressBar>({400, 8});
+        const auto edgeAt = [](double inSeconds) {
+            return static_cast<int>((std::cos(inSeconds * M_PI - M_PI) + 1.0) * 0.5 * 400);
+        };
+        const auto now = [&] { return std::fmod(mStyle->animationTime(&bar).count() / 1000.0, 2.0); };
+        const auto contents = [&] {
+            return mStyle->subElementRect(QStyle::SE_ProgressBarContents, &option, &bar);
+        };
+        QCOMPARE(contents(), QRect(QPoint(0, 0), QPoint(0, 7))); // which starts the clock
+        bool grew = false;
+        bool shrank = false;
+        const auto sawBoth = [&] {
+            const double before = now();
+            const QRect rect = contents();
+            const double after = now();
+            if (0.3 < before && before <= after && after < 1.0) {
+                grew = rect.left() == 0 && rect.right() >= edgeAt(before) - 1 &&
+                       rect.right() <= edgeAt(after) + 1;
+            } else if (1.3 < before && before <= after) {
+                shrank = rect.right() == 399 && rect.left() >= edgeAt(before - 1.0) - 1 &&
+                         rect.left() <= edgeAt(after - 1.0) + 1;
+            }
+            return grew && shrank;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(sawBoth(), 10000);
+    }
+
     void scrollBarRects_data() { DataRows::add(kScrollBars); }
-    void scrollBarRects();
-    void sliderHandleRect_data() { DataRows::add(kHandles); }
-    void sliderHandleRect();
-    void spinButtonsMoveOffTheRoundEnd();
-    void comboBoxRects_data() { DataRows::add(kComboBoxParts); }
-    void comboBoxRects();
-    void comboBoxFieldHoldsItsText();
-    void comboBoxPopupHoldsTheWidestRow();
+    void scrollBarRects()
+    {
+        const ScrollBarRow row = DataRows::current(kScrollBars);
+        for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            const auto span = [orientation](int inFrom, int inLength) {
+                return orientation == Qt::Vertical ? QRect(0, inFrom, 8, inLength)
+                                                   : QRect(inFrom, 0, inLength, 8);
+            };
+            QStyleOptionSlider option;
+            option.rect = span(0, row.extent).translated(30, 40); // the parts count from the bar's own origin
+            option.orientation = orientation;
+            option.maximum = row.maximum;
+            option.pageStep = row.page;
+            option.sliderPosition = row.value;
+            option.upsideDown = row.upsideDown;
+            const auto rectOf = [&](QStyle::SubControl inPart) {
+                return mStyle->subControlRect(QStyle::CC_ScrollBar, &option, inPart);
+            };
+            const int end = row.position + row.length;
+            QCOMPARE(rectOf(QStyle::SC_ScrollBarSlider), span(row.position, row.length));
+            QCOMPARE(rectOf(QStyle::SC_ScrollBarSubPage), span(0, row.position));
+            QCOMPARE(rectOf(QStyle::SC_ScrollBarAddPage), span(end, row.extent - end));
+            QCOMPARE(rectOf(QStyle::SC_ScrollBarGroove), span(0, row.extent));
+            QCOMPARE(rectOf(QStyle::SC_ScrollBarAddLine), QRect());
+        }
+    }
+
+    void sliderHandleRect()
+    {
+        VantraStyleOptionSlider option;
+        option.rect = QRect(7, 9, 112, 22); // the handle counts from the slider's own origin
+        option.maximum = 100;
+        option.sliderValue = 25;
+        const auto handle = [&](QStyle::State inState) {
+            option.state = inState;
+            return mStyle->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle);
+        };
+        QCOMPARE(handle(kHovered), QRect(25, 5, 12, 12));
+        option.enlargeHandle = true;
+        QCOMPARE(handle(kEnabled), QRect(25, 5, 12, 12));
+        QCOMPARE(handle(kHovered), QRect(24, 3, 16, 16));
+        QCOMPARE(handle(kOn), QRect(24, 3, 16, 16));
+        QCOMPARE(handle(QStyle::State_MouseOver), QRect(25, 5, 12, 12));
+        option.upsideDown = true;
+        QCOMPARE(handle(kEnabled), QRect(75, 5, 12, 12));
+    }
+
+    void spinButtonsMoveOffTheRoundEnd()
+    {
+        auto option = of<QStyleOptionSpinBox>({100, 24});
+        option.frame = true;
+        const auto moved = [&](QStyle::SubControl inPart) {
+            return mStyle->subControlRect(QStyle::CC_SpinBox, &option, inPart).topLeft() -
+                   mFusion->subControlRect(QStyle::CC_SpinBox, &option, inPart).topLeft();
+        };
+        QCOMPARE(moved(QStyle::SC_SpinBoxUp), QPoint(-8, 0));
+        QCOMPARE(moved(QStyle::SC_SpinBoxDown), QPoint(-8, 0));
+        QCOMPARE(moved(QStyle::SC_SpinBoxEditField), QPoint(0, 0));
+    }
+
+    void comboBoxRects()
+    {
+        QStyleOptionComboBox option;
+        option.rect = QRect(10, 20, 300, 50);
+        const auto rectOf = [&](QStyle::SubControl inPart) {
+            return mStyle->subControlRect(QStyle::CC_ComboBox, &option, inPart);
+        };
+        // An empty pill is 40 by 24 with ends of 12, whatever the option's own size.
+        QCOMPARE(rectOf(QStyle::SC_ComboBoxEditField), QRect(10, 20, 40, 24));
+        QCOMPARE(rectOf(QStyle::SC_ComboBoxListBoxPopup), option.rect);
+        option.editable = true;
+        QCOMPARE(rectOf(QStyle::SC_ComboBoxFrame), QRect(10, 20, 40, 24));
+        QCOMPARE(rectOf(QStyle::SC_ComboBoxArrow), QRect(QPoint(49 - 28, 20), QPoint(49, 43)));
+        QCOMPARE(rectOf(QStyle::SC_ComboBoxEditField), QRect(QPoint(22, 20), QPoint(309 - 28, 69)));
+        option.currentText = kWord;
+        const QSize size = sizeOf(QStyle::CT_ComboBox, option);
+        const int end = size.height() / 2;
+        QCOMPARE(rectOf(QStyle::SC_ComboBoxEditField),
+                 QRect(10 + end, 20, size.width() - 2 * end - 16, size.height()));
+    }
+
+    void comboBoxPopupHoldsTheWidestRow()
+    {
+        QComboBox comboBox;
+        comboBox.setStyle(mStyle.get());
+        comboBox.addItems({"a", QString(60, 'm'), "b"});
+        QStyleOptionComboBox option;
+        option.rect = QRect(5, 6, 50, 24);
+        const auto popup = [&] {
+            return mStyle->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxListBoxPopup,
+                                          &comboBox);
+        };
+        const int text = comboBox.fontMetrics().boundingRect(QString(60, 'm')).width();
+        const int bar = comboBox.view()->verticalScrollBar()->sizeHint().width();
+        QCOMPARE(popup(), QRect(5, 6, bar + text, 24));
+        comboBox.view()->setIconSize(QSize(30, 30));
+        comboBox.setItemData(1, Qt::Checked, Qt::CheckStateRole);
+        QCOMPARE(popup().width(), bar + text + 30 + 16);
+        comboBox.setMinimumWidth(text * 2);
+        QCOMPARE(popup().width(), text * 2);
+        option.rect.setWidth(text * 3);
+        QCOMPARE(popup().width(), text * 3);
+    }
 
 private:
     QSize sizeOf(QStyle::ContentsType inType, const QStyleOption &inOption, const QWidget *inWidget = nullptr)
@@ -251,235 +396,5 @@ private:
     std::unique_ptr<VantraStyle> mStyle;
 };
 
-void tst_VantraStyleGeometry::initTestCase()
-{
-    QVERIFY(ThemeFixture::load());
-    mStyle = std::make_unique<VantraStyle>();
-}
-
-void tst_VantraStyleGeometry::metricsOfTheDesign()
-{
-    QCOMPARE(mStyle->pixelMetric(currentMetric()), DataRows::current(kMetrics).answer);
-}
-
-void tst_VantraStyleGeometry::menuMetricsAreOfMenusAlone()
-{
-    const QStyle::PixelMetric metric = currentMetric();
-    QMenu menu;
-    QMenuBar bar;
-    QCOMPARE(mStyle->pixelMetric(metric, nullptr, &menu), DataRows::current(kMenuMetrics).answer);
-    QCOMPARE(mStyle->pixelMetric(metric, nullptr, &bar), mFusion->pixelMetric(metric, nullptr, &bar));
-    QCOMPARE(mStyle->pixelMetric(metric), mFusion->pixelMetric(metric));
-}
-
-void tst_VantraStyleGeometry::otherMetricsAreFusions()
-{
-    for (const QStyle::PixelMetric metric :
-         {QStyle::PM_SmallIconSize, QStyle::PM_ToolBarItemSpacing, QStyle::PM_HeaderMargin,
-          QStyle::PM_SplitterWidth, QStyle::PM_CheckBoxLabelSpacing, QStyle::PM_LayoutLeftMargin}) {
-        QCOMPARE(mStyle->pixelMetric(metric), mFusion->pixelMetric(metric));
-    }
-}
-
-void tst_VantraStyleGeometry::overlapFollowsTheHintOfAFurtherStyle()
-{
-    QCOMPARE(TransientStyle().pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap), 8);
-}
-
-void tst_VantraStyleGeometry::viewItem()
-{
-    const ViewItemRow row = DataRows::current(viewItemRows());
-    VantraStyleOptionViewItem option;
-    option.rect = QRect(10, 20, 200, 31);
-    option.direction = Qt::RightToLeft; // the design has one direction alone
-    option.decorationSize = QSize(16, 12);
-    option.icon = row.decorated ? icon() : QIcon();
-    option.features = QStyleOptionViewItem::HasDecoration; // which without an icon counts nothing
-    option.features.setFlag(QStyleOptionViewItem::HasCheckIndicator, row.checkable);
-    option.useIndent = row.indented;
-    option.text = row.text;
-    const auto rectOf = [&](QStyle::SubElement inPart) { return mStyle->subElementRect(inPart, &option); };
-    QCOMPARE(sizeOf(QStyle::CT_ItemViewItem, option), row.size);
-    QCOMPARE(rectOf(QStyle::SE_ItemViewItemDecoration), row.decorationRect);
-    QCOMPARE(rectOf(QStyle::SE_ItemViewItemCheckIndicator), row.checkRect);
-    QCOMPARE(rectOf(QStyle::SE_ItemViewItemText), QRect(QPoint(row.textLeft, 20), QPoint(209, 50)));
-}
-
-void tst_VantraStyleGeometry::buttonsAndSlidersUseAllTheirRect()
-{
-    const QRect rect(3, 4, 50, 20);
-    QStyleOptionButton button;
-    button.rect = rect;
-    button.features = QStyleOptionButton::HasMenu | QStyleOptionButton::AutoDefaultButton;
-    for (const QStyle::SubElement element : {QStyle::SE_PushButtonContents, QStyle::SE_PushButtonFocusRect,
-                                             QStyle::SE_PushButtonLayoutItem, QStyle::SE_PushButtonBevel}) {
-        QCOMPARE(mStyle->subElementRect(element, &button), rect);
-    }
-    QStyleOptionSlider slider;
-    slider.rect = rect;
-    QCOMPARE(mStyle->subElementRect(QStyle::SE_SliderFocusRect, &slider), rect);
-    QCOMPARE(mStyle->subElementRect(QStyle::SE_SliderLayoutItem, &slider), rect);
-    QCOMPARE(mStyle->subControlRect(QStyle::CC_Slider, &slider, QStyle::SC_SliderGroove), rect);
-    QStyleOptionToolButton toolButton;
-    toolButton.rect = rect;
-    toolButton.features = QStyleOptionToolButton::MenuButtonPopup;
-    QCOMPARE(mStyle->subControlRect(QStyle::CC_ToolButton, &toolButton, QStyle::SC_ToolButton), rect);
-    QCOMPARE(mStyle->subControlRect(QStyle::CC_ToolButton, &toolButton, QStyle::SC_ToolButtonMenu), rect);
-}
-
-void tst_VantraStyleGeometry::progressRects()
-{
-    const ProgressRow row = DataRows::current(progressRows());
-    QStyleOptionProgressBar option;
-    option.rect = row.rect;
-    option.minimum = row.minimum;
-    option.maximum = row.maximum;
-    option.progress = row.progress;
-    QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarGroove, &option), row.groove);
-    QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarContents, &option), row.contents);
-    QCOMPARE(mStyle->subElementRect(QStyle::SE_ProgressBarLabel, &option), QRect());
-}
-
-void tst_VantraStyleGeometry::busyProgressFollowsTheCosine()
-{
-    QProgressBar bar;
-    QStyleOptionProgressBar option;
-    option.rect = QRect(0, 0, 400, 8);
-    const auto edgeAt = [](double inSeconds) {
-        return static_cast<int>((std::cos(inSeconds * M_PI - M_PI) + 1.0) * 0.5 * 400);
-    };
-    const auto secondsNow = [&] { return mStyle->animationTime(&bar).count() / 1000.0; };
-    const auto contents = [&] {
-        return mStyle->subElementRect(QStyle::SE_ProgressBarContents, &option, &bar);
-    };
-    QCOMPARE(contents(), QRect(QPoint(0, 0), QPoint(0, 7))); // which starts the clock
-
-    bool grew = false;
-    bool shrank = false;
-    QElapsedTimer patience;
-    patience.start();
-    while (!(grew && shrank) && patience.elapsed() < 10000) {
-        QTest::qWait(30);
-        const double before = std::fmod(secondsNow(), 2.0);
-        const QRect rect = contents();
-        const double after = std::fmod(secondsNow(), 2.0);
-        if (0.3 < before && before <= after && after < 1.0) {
-            QCOMPARE(rect.left(), 0);
-            QVERIFY(rect.right() >= edgeAt(before) - 1 && rect.right() <= edgeAt(after) + 1);
-            grew = true;
-        } else if (1.3 < before && before <= after) {
-            QCOMPARE(rect.right(), 399);
-            QVERIFY(rect.left() >= edgeAt(before - 1.0) - 1 && rect.left() <= edgeAt(after - 1.0) + 1);
-            shrank = true;
-        }
-    }
-    QVERIFY(grew && shrank);
-}
-
-void tst_VantraStyleGeometry::scrollBarRects()
-{
-    const ScrollBarRow row = DataRows::current(kScrollBars);
-    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
-        const bool upright = orientation == Qt::Vertical;
-        const auto span = [upright](int inFrom, int inLength) {
-            return upright ? QRect(0, inFrom, 8, inLength) : QRect(inFrom, 0, inLength, 8);
-        };
-        QStyleOptionSlider option;
-        option.rect = span(0, row.extent).translated(30, 40); // the parts count from the bar's own origin
-        option.orientation = orientation;
-        option.maximum = row.maximum;
-        option.pageStep = row.page;
-        option.sliderPosition = row.value;
-        option.upsideDown = row.upsideDown;
-        const auto rectOf = [&](QStyle::SubControl inPart) {
-            return mStyle->subControlRect(QStyle::CC_ScrollBar, &option, inPart);
-        };
-        const int end = row.position + row.length;
-        QCOMPARE(rectOf(QStyle::SC_ScrollBarSlider), span(row.position, row.length));
-        QCOMPARE(rectOf(QStyle::SC_ScrollBarSubPage), span(0, row.position));
-        QCOMPARE(rectOf(QStyle::SC_ScrollBarAddPage), span(end, row.extent - end));
-        QCOMPARE(rectOf(QStyle::SC_ScrollBarGroove), span(0, row.extent));
-        for (const QStyle::SubControl part : {QStyle::SC_ScrollBarAddLine, QStyle::SC_ScrollBarSubLine,
-                                              QStyle::SC_ScrollBarFirst, QStyle::SC_ScrollBarLast}) {
-            QCOMPARE(rectOf(part), QRect());
-        }
-    }
-}
-
-void tst_VantraStyleGeometry::sliderHandleRect()
-{
-    const HandleRow row = DataRows::current(kHandles);
-    VantraStyleOptionSlider option;
-    option.rect = QRect(7, 9, 112, 22); // the handle counts from the slider's own origin
-    option.maximum = 100;
-    option.sliderValue = 25;
-    option.enlargeHandle = row.grows;
-    option.state = row.state;
-    option.upsideDown = row.upsideDown;
-    QCOMPARE(mStyle->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle), row.rect);
-}
-
-void tst_VantraStyleGeometry::spinButtonsMoveOffTheRoundEnd()
-{
-    QStyleOptionSpinBox option;
-    option.rect = QRect(0, 0, 100, 24);
-    option.frame = true;
-    const auto moved = [&](QStyle::SubControl inPart) {
-        return mStyle->subControlRect(QStyle::CC_SpinBox, &option, inPart).topLeft() -
-               mFusion->subControlRect(QStyle::CC_SpinBox, &option, inPart).topLeft();
-    };
-    QCOMPARE(moved(QStyle::SC_SpinBoxUp), QPoint(-8, 0));
-    QCOMPARE(moved(QStyle::SC_SpinBoxDown), QPoint(-8, 0));
-    QCOMPARE(moved(QStyle::SC_SpinBoxEditField), QPoint(0, 0));
-    QCOMPARE(moved(QStyle::SC_SpinBoxFrame), QPoint(0, 0));
-}
-
-void tst_VantraStyleGeometry::comboBoxRects()
-{
-    const ComboBoxPartRow row = DataRows::current(kComboBoxParts);
-    QStyleOptionComboBox option;
-    option.rect = QRect(10, 20, 300, 50);
-    option.editable = row.editable;
-    QCOMPARE(mStyle->subControlRect(QStyle::CC_ComboBox, &option, row.part), row.rect);
-}
-
-void tst_VantraStyleGeometry::comboBoxFieldHoldsItsText()
-{
-    QStyleOptionComboBox option;
-    option.rect = QRect(10, 20, 300, 50);
-    option.editable = true;
-    option.currentText = QStringLiteral("Portrait");
-    const QSize size = sizeOf(QStyle::CT_ComboBox, option);
-    const int pill = size.height() / 2;
-    QCOMPARE(mStyle->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField),
-             QRect(10 + pill, 20, size.width() - 2 * pill - 16, size.height()));
-}
-
-void tst_VantraStyleGeometry::comboBoxPopupHoldsTheWidestRow()
-{
-    QComboBox comboBox;
-    comboBox.setStyle(mStyle.get());
-    comboBox.addItems({"a", QString(60, 'm'), "b"});
-    QStyleOptionComboBox option;
-    option.rect = QRect(5, 6, 50, 24);
-    const auto popup = [&] {
-        return mStyle->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxListBoxPopup,
-                                      &comboBox);
-    };
-    const int text = comboBox.fontMetrics().boundingRect(QString(60, 'm')).width();
-    const int bar = comboBox.view()->verticalScrollBar()->sizeHint().width();
-    QCOMPARE(popup(), QRect(5, 6, bar + text, 24));
-
-    comboBox.view()->setIconSize(QSize(30, 30));
-    comboBox.setItemData(1, Qt::Checked, Qt::CheckStateRole);
-    QCOMPARE(popup().width(), bar + text + 30 + 16);
-
-    comboBox.setMinimumWidth(text * 2);
-    QCOMPARE(popup().width(), text * 2);
-    option.rect.setWidth(text * 3);
-    QCOMPARE(popup().width(), text * 3);
-}
-
 FATAL_TEST_MAIN(tst_VantraStyleGeometry)
-
 #include "tst_VantraStyleGeometry.moc"

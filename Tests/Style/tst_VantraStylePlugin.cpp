@@ -31,114 +31,87 @@ class tst_VantraStylePlugin : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void programStartedWithTheStyleLooksRight();
-    void programMayLoadTheFontsItself();
-    void keyIsFoundInAnyCase_data();
-    void keyIsFoundInAnyCase();
-    void loadedThemeStays();
-    void fontSetLaterWins();
-    void fontSetEarlierStays();
-    void systemFontComesBackWithAnotherStyle();
-    void styleOfOneWidgetLeavesTheApplicationsFont();
+    void initTestCase() { mFontAtStart = QApplication::font(); }
+
+    void programStartedWithTheStyleLooksRight()
+    {
+        QVERIFY(isVantra(QApplication::style()));
+        const VantraStyleTheme &theme = VantraStyleTheme::instance();
+        QVERIFY(theme.colorPalette().contains(VantraPalette::Normal, VantraPalette::WindowBackground));
+        QCOMPARE(QApplication::palette().color(QPalette::Window),
+                 theme.windowBackgroundColor(QPalette::Active));
+        QCOMPARE(mFontAtStart, VantraFont::mainFont());
+        QCOMPARE(QPushButton().font().family(), QString("Roboto"));
+    }
+
+    void keyIsFoundInAnyCase()
+    {
+        QVERIFY(QStyleFactory::keys().contains("Vantra"));
+        for (const char *key : {"Vantra", "vantra", "VANTRA"}) {
+            const std::unique_ptr<QStyle> style(QStyleFactory::create(key));
+            QVERIFY(isVantra(style.get()) && style.get() != QApplication::style());
+        }
+    }
+
+    void loadedThemeStays()
+    {
+        const QColor blue = accent();
+        VantraStyleTheme::loadGlobalConfig("base", "red");
+        const QColor red = accent();
+        QVERIFY(red != blue);
+        const std::unique_ptr<QStyle> style(QStyleFactory::create("Vantra"));
+        QCOMPARE(accent(), red);
+        VantraStyleTheme::loadGlobalConfig("base", "blue");
+    }
+
+    void fontSetLaterWins()
+    {
+        QApplication::setStyle("Vantra");
+        QCOMPARE(QApplication::font(), VantraFont::mainFont());
+        const QFont chosen("Roboto", 20);
+        QApplication::setFont(chosen);
+        QCoreApplication::processEvents();
+        QCOMPARE(QApplication::font(), chosen);
+
+        QApplication::setStyle("Fusion");
+        QCOMPARE(QApplication::font(), chosen);
+    }
+
+    void fontSetEarlierStays()
+    {
+        QApplication::setStyle("Fusion");
+        const QFont chosen("Roboto", 20);
+        QApplication::setFont(chosen);
+        QApplication::setStyle("Vantra");
+        QCoreApplication::processEvents();
+        QCOMPARE(QApplication::font(), chosen);
+    }
+
+    void systemFontComesBackWithAnotherStyle()
+    {
+        const QFont systemFont = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+        QApplication::setFont(systemFont);
+        QApplication::setStyle("Vantra");
+        QVERIFY(QApplication::font() != systemFont);
+        QApplication::setStyle("Fusion");
+        QCOMPARE(QApplication::font(), systemFont);
+    }
+
+    void styleOfOneWidgetLeavesTheApplicationsFont()
+    {
+        QApplication::setStyle("Fusion");
+        const QFont before = QApplication::font();
+        const std::unique_ptr<QStyle> style(QStyleFactory::create("Vantra"));
+        QPushButton button("Text");
+        button.setStyle(style.get());
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        QCOMPARE(QApplication::font(), before);
+    }
 
 private:
     QFont mFontAtStart;
 };
-
-void tst_VantraStylePlugin::initTestCase()
-{
-    mFontAtStart = QApplication::font();
-}
-
-void tst_VantraStylePlugin::programStartedWithTheStyleLooksRight()
-{
-    QVERIFY(isVantra(QApplication::style()));
-    const VantraStyleTheme &theme = VantraStyleTheme::instance();
-    QVERIFY(theme.colorPalette().contains(VantraPalette::Normal, VantraPalette::WindowBackground));
-    QCOMPARE(QApplication::palette().color(QPalette::Window), theme.windowBackgroundColor(QPalette::Active));
-    QCOMPARE(mFontAtStart, VantraFont::mainFont());
-    QCOMPARE(QPushButton().font().family(), QString("Roboto"));
-}
-
-void tst_VantraStylePlugin::programMayLoadTheFontsItself()
-{
-    QVERIFY(VantraFont::loadApplicationFonts()); // a second load would stop the process
-    QVERIFY(QFontDatabase::families().contains("Roboto"));
-}
-
-void tst_VantraStylePlugin::keyIsFoundInAnyCase_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::newRow("as stated") << "Vantra";
-    QTest::newRow("lower") << "vantra";
-    QTest::newRow("upper") << "VANTRA";
-}
-
-void tst_VantraStylePlugin::keyIsFoundInAnyCase()
-{
-    QFETCH(QString, key);
-    QVERIFY(QStyleFactory::keys().contains("Vantra"));
-    const std::unique_ptr<QStyle> style(QStyleFactory::create(key));
-    QVERIFY(isVantra(style.get()));
-    QVERIFY(style.get() != QApplication::style());
-}
-
-void tst_VantraStylePlugin::loadedThemeStays()
-{
-    const QColor blue = accent();
-    VantraStyleTheme::loadGlobalConfig("base", "red");
-    const QColor red = accent();
-    QVERIFY(red != blue);
-    const std::unique_ptr<QStyle> style(QStyleFactory::create("Vantra"));
-    QCOMPARE(accent(), red);
-    VantraStyleTheme::loadGlobalConfig("base", "blue");
-}
-
-void tst_VantraStylePlugin::fontSetLaterWins()
-{
-    QApplication::setStyle("Vantra");
-    QCOMPARE(QApplication::font(), VantraFont::mainFont());
-    const QFont chosen("Roboto", 20);
-    QApplication::setFont(chosen);
-    QCoreApplication::processEvents();
-    QCOMPARE(QApplication::font(), chosen);
-
-    QApplication::setStyle("Fusion");
-    QCOMPARE(QApplication::font(), chosen);
-}
-
-void tst_VantraStylePlugin::fontSetEarlierStays()
-{
-    QApplication::setStyle("Fusion");
-    const QFont chosen("Roboto", 20);
-    QApplication::setFont(chosen);
-    QApplication::setStyle("Vantra");
-    QCoreApplication::processEvents();
-    QCOMPARE(QApplication::font(), chosen);
-}
-
-void tst_VantraStylePlugin::systemFontComesBackWithAnotherStyle()
-{
-    const QFont systemFont = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    QApplication::setFont(systemFont);
-    QApplication::setStyle("Vantra");
-    QVERIFY(QApplication::font() != systemFont);
-    QApplication::setStyle("Fusion");
-    QCOMPARE(QApplication::font(), systemFont);
-}
-
-void tst_VantraStylePlugin::styleOfOneWidgetLeavesTheApplicationsFont()
-{
-    QApplication::setStyle("Fusion");
-    const QFont before = QApplication::font();
-    const std::unique_ptr<QStyle> style(QStyleFactory::create("Vantra"));
-    QPushButton button("Text");
-    button.setStyle(style.get());
-    button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
-    QCOMPARE(QApplication::font(), before);
-}
 
 int main(int argc, char **argv)
 {

@@ -1,11 +1,10 @@
 // The style blits kept pictures and fills nested shapes where it could clip and stroke. These tests hold the
 // result against the shape painted the long way.
 
+#include "Support/StyleSamples.h"
 #include "Support/ThemeFixture.h"
 
 #include "Style/VantraStyle.h"
-#include "StyleOptions/VantraStyleOptionLineEdit.h"
-#include "StyleOptions/VantraStyleOptionSlider.h"
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtGui/QPainter>
@@ -13,11 +12,18 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QStyleOption>
 
+using namespace StyleSamples;
+
 namespace {
 
 const VantraStyleTheme &theme()
 {
     return VantraStyleTheme::instance();
+}
+
+QBrush brush(VantraPalette::PaletteRole inRole)
+{
+    return theme().colorPalette().brush(VantraPalette::Normal, inRole);
 }
 
 using Painting = std::function<void(QPainter &)>;
@@ -91,12 +97,11 @@ void paintField(QPainter &ioPainter, const QRect &inRect, double inRadius, const
 
 struct Range
 {
-    int minimum;
-    int maximum;
-    int value;
+    int minimum, maximum, value;
+    int anchor; // where the span begins
 };
 
-void paintSlider(QPainter &ioPainter, const QRect &inRect, const Range &inRange, int inAnchor)
+void paintSlider(QPainter &ioPainter, const QRect &inRect, const Range &inRange)
 {
     const QRectF groove =
         QRectF(inRect).adjusted(0.5, inRect.height() * 0.5 - 2.0, -0.5, 2.0 - inRect.height() * 0.5);
@@ -111,9 +116,9 @@ void paintSlider(QPainter &ioPainter, const QRect &inRect, const Range &inRange,
     ioPainter.setPen(Qt::NoPen);
     ioPainter.setBrush(theme().sliderGrooveColor());
     ioPainter.drawRect(groove);
-    ioPainter.setBrush(theme().colorPalette().brush(VantraPalette::Normal, VantraPalette::SliderValue));
-    ioPainter.drawRect(QRectF(position(inAnchor), groove.y(), position(inRange.value) - position(inAnchor),
-                              groove.height()));
+    ioPainter.setBrush(brush(VantraPalette::SliderValue));
+    ioPainter.drawRect(QRectF(position(inRange.anchor), groove.y(),
+                              position(inRange.value) - position(inRange.anchor), groove.height()));
     ioPainter.restore();
 }
 
@@ -124,15 +129,121 @@ class tst_VantraStyleShapes : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void pillsAreRoundedRectangles_data();
-    void pillsAreRoundedRectangles();
-    void fieldsAreTheirOutlinedPath_data();
-    void fieldsAreTheirOutlinedPath();
-    void menusAreTheirOutlinedPanel();
-    void grooveAndValueStayInTheRoundedGroove_data();
-    void grooveAndValueStayInTheRoundedGroove();
-    void picturesGiveWayToPaintingAtOddOffsets();
+    void initTestCase() { QVERIFY(ThemeFixture::load()); }
+
+    void pillsAreRoundedRectangles()
+    {
+        // Even and odd, square, taller than wide, one pixel more than its ends, and too large for pictures; a
+        // picture of one colour must not serve for another.
+        for (const QSize &size :
+             {QSize(80, 24), QSize(80, 25), QSize(22, 22), QSize(13, 40), QSize(25, 24), QSize(300, 180)}) {
+            for (const auto group : {VantraPalette::Normal, VantraPalette::Disabled}) {
+                const bool enabled = group == VantraPalette::Normal;
+                const auto option = of<QStyleOptionButton>(size, enabled ? kEnabled : QStyle::State_None);
+                const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                    mStyle.drawControl(QStyle::CE_PushButtonBevel, &option, &painter);
+                });
+                const QImage expected = painted(option.rect, [&](QPainter &painter) {
+                    fillRounded(painter, option.rect, qMin(size.width(), size.height()) / 2,
+                                theme().colorPalette().brush(group, VantraPalette::ButtonBackground));
+                });
+                QCOMPARE(differenceOf(ours, expected).pixels, 0);
+            }
+        }
+    }
+
+    void fieldsAreTheirOutlinedPath()
+    {
+        for (const auto style : {VantraLineEditBase::BorderHighlight, VantraLineEditBase::BorderStandard}) {
+            for (const int height : {24, 25}) {
+                auto option = of<VantraStyleOptionLineEdit>({120, height});
+                option.borderStyle = style;
+                const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                    mStyle.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter);
+                });
+                const QImage expected = painted(option.rect, [&](QPainter &painter) {
+                    paintField(painter, option.rect, theme().lineEditLeftRadius(&option),
+                               theme().lineEditBackgroundBrush(&option));
+                });
+                QVERIFY(sameButForSeams(ours, expected));
+            }
+        }
+    }
+
+    void menusAreTheirOutlinedPanel()
+    {
+        const auto option = of<QStyleOptionMenuItem>({120, 80});
+        const QImage ours = painted(option.rect, [&](QPainter &painter) {
+            mStyle.drawPrimitive(QStyle::PE_PanelMenu, &option, &painter);
+        });
+        const QImage expected = painted(option.rect, [&](QPainter &painter) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(QPen(brush(VantraPalette::MenuLine), 1.0));
+            painter.setBrush(brush(VantraPalette::MenuBackground));
+            painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5.0, 5.0);
+        });
+        QVERIFY(sameButForSeams(ours, expected));
+    }
+
+    // Two strokes from fixed coordinates, in the middle of boxes of all parities.
+    void ticksAreTheirTwoStrokes()
+    {
+        for (const QSize &size : {QSize(16, 16), QSize(17, 16), QSize(16, 21), QSize(13, 15)}) {
+            auto option = of<QStyleOptionMenuItem>(size, kEnabled | QStyle::State_On);
+            const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                mStyle.drawPrimitive(QStyle::PE_IndicatorMenuCheckMark, &option, &painter);
+            });
+            const QImage expected = painted(option.rect, [&](QPainter &painter) {
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.translate((size.width() - 11.2687 - 0.73125) * 0.5,
+                                  (size.height() - 7.48264 - 0.696475) * 0.5);
+                painter.setPen(QPen(brush(VantraPalette::Checkmark), 2.0, Qt::SolidLine, Qt::RoundCap));
+                painter.drawLine(QPointF(0.73125, 4.14313), QPointF(4.36875, 7.48264));
+                painter.drawLine(QPointF(4.36875, 7.48264), QPointF(11.2687, 0.696475));
+            });
+            QVERIFY(sameButForSeams(ours, expected));
+        }
+    }
+
+    void grooveAndValueStayInTheRoundedGroove()
+    {
+        // From the low end, unless zero lies between the ends.
+        for (const Range &range :
+             {Range{0, 100, 60, 0}, Range{0, 100, 100, 0}, Range{-100, 100, 40, 0}, Range{-100, 100, -100, 0},
+              Range{-100, 100, 0, 0}, Range{10, 20, 15, 10}, Range{-20, -10, -15, -20}}) {
+            auto option = of<VantraStyleOptionSlider>({200, 22});
+            option.minimum = range.minimum;
+            option.maximum = range.maximum;
+            option.sliderValue = range.value;
+            option.subControls = QStyle::SC_SliderGroove;
+            const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                mStyle.drawComplexControl(QStyle::CC_Slider, &option, &painter);
+            });
+            const QImage expected =
+                painted(option.rect, [&](QPainter &painter) { paintSlider(painter, option.rect, range); });
+            QVERIFY2(sameButForSeams(ours, expected), qPrintable(QString::number(range.value)));
+        }
+    }
+
+    // Half a pixel further, a kept picture would be blurred or off.
+    void picturesGiveWayToPaintingAtOddOffsets()
+    {
+        QStyleOptionButton option;
+        option.rect = QRect(4, 4, 16, 16);
+        option.state = QStyle::State_Enabled | QStyle::State_On;
+        const auto indicator = [&](double offset) {
+            return painted(QRect(0, 0, 30, 30), [&](QPainter &painter) {
+                painter.translate(offset, 0.0);
+                mStyle.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
+            });
+        };
+        // The dot is four pixels wide, from 10 to 14; half a pixel on, its edges are shared by two columns
+        // each.
+        QCOMPARE(indicator(0.0).pixelColor(11, 12), kAccent);
+        QVERIFY(indicator(0.0) != indicator(0.5));
+        QCOMPARE(indicator(0.5).pixelColor(12, 12), kAccent);
+        QCOMPARE(indicator(1.0).copy(1, 0, 29, 30), indicator(0.0).copy(0, 0, 29, 30));
+    }
 
 private:
     QImage painted(const QRect &inRect, const Painting &inPainting) const;
@@ -140,144 +251,9 @@ private:
     VantraStyle mStyle;
 };
 
-void tst_VantraStyleShapes::initTestCase()
-{
-    QVERIFY(ThemeFixture::load());
-}
-
 QImage tst_VantraStyleShapes::painted(const QRect &inRect, const Painting &inPainting) const
 {
     return ThemeFixture::paint(inRect.size(), inPainting, QColor(200, 60, 120));
-}
-
-void tst_VantraStyleShapes::pillsAreRoundedRectangles_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("even height") << QSize(80, 24);
-    QTest::newRow("odd height") << QSize(80, 25);
-    QTest::newRow("square") << QSize(22, 22);
-    QTest::newRow("odd square") << QSize(21, 21);
-    QTest::newRow("taller than wide") << QSize(13, 40);
-    QTest::newRow("one pixel more than its ends") << QSize(25, 24);
-    QTest::newRow("too large for pictures") << QSize(300, 180);
-}
-
-void tst_VantraStyleShapes::pillsAreRoundedRectangles()
-{
-    QFETCH(const QSize, size);
-    const QRect rect(QPoint(0, 0), size);
-    QStyleOptionButton option;
-    option.rect = rect;
-    option.state = QStyle::State_Enabled;
-    const QImage ours = painted(
-        rect, [&](QPainter &painter) { mStyle.drawControl(QStyle::CE_PushButtonBevel, &option, &painter); });
-    const QImage expected = painted(rect, [&](QPainter &painter) {
-        fillRounded(painter, rect, qMin(size.width(), size.height()) / 2,
-                    theme().colorPalette().brush(VantraPalette::Normal, VantraPalette::ButtonBackground));
-    });
-    QCOMPARE(differenceOf(ours, expected).pixels, 0);
-}
-
-void tst_VantraStyleShapes::fieldsAreTheirOutlinedPath_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<VantraLineEditBase::BorderStyle>("borderStyle");
-    QTest::newRow("plate") << QSize(120, 24) << VantraLineEditBase::BorderHighlight;
-    QTest::newRow("pill") << QSize(120, 24) << VantraLineEditBase::BorderStandard;
-    QTest::newRow("odd pill") << QSize(120, 25) << VantraLineEditBase::BorderStandard;
-}
-
-void tst_VantraStyleShapes::fieldsAreTheirOutlinedPath()
-{
-    QFETCH(const QSize, size);
-    QFETCH(const VantraLineEditBase::BorderStyle, borderStyle);
-    VantraStyleOptionLineEdit option;
-    option.rect = QRect(QPoint(0, 0), size);
-    option.state = QStyle::State_Enabled;
-    option.borderStyle = borderStyle;
-    const QImage ours = painted(option.rect, [&](QPainter &painter) {
-        mStyle.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter);
-    });
-    const QImage expected = painted(option.rect, [&](QPainter &painter) {
-        paintField(painter, option.rect, theme().lineEditLeftRadius(&option),
-                   theme().lineEditBackgroundBrush(&option));
-    });
-    QVERIFY(sameButForSeams(ours, expected));
-}
-
-void tst_VantraStyleShapes::menusAreTheirOutlinedPanel()
-{
-    QStyleOptionMenuItem option;
-    option.rect = QRect(0, 0, 120, 80);
-    option.state = QStyle::State_Enabled;
-    const QImage ours = painted(option.rect, [&](QPainter &painter) {
-        mStyle.drawPrimitive(QStyle::PE_PanelMenu, &option, &painter);
-    });
-    const QImage expected = painted(option.rect, [&](QPainter &painter) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(theme().colorPalette().brush(VantraPalette::Normal, VantraPalette::MenuLine), 1.0,
-                            Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-        painter.setBrush(theme().colorPalette().brush(VantraPalette::Normal, VantraPalette::MenuBackground));
-        painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5.0, 5.0);
-    });
-    QVERIFY(sameButForSeams(ours, expected));
-}
-
-void tst_VantraStyleShapes::grooveAndValueStayInTheRoundedGroove_data()
-{
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("anchor");
-    QTest::newRow("from the left end") << 0 << 100 << 60 << 0;
-    QTest::newRow("both ends") << 0 << 100 << 100 << 0;
-    QTest::newRow("to the right of zero") << -100 << 100 << 40 << 0;
-    QTest::newRow("to the left of zero") << -100 << 100 << -100 << 0;
-    QTest::newRow("no span") << -100 << 100 << 0 << 0;
-    QTest::newRow("above zero") << 10 << 20 << 15 << 10;
-}
-
-void tst_VantraStyleShapes::grooveAndValueStayInTheRoundedGroove()
-{
-    QFETCH(const int, minimum);
-    QFETCH(const int, maximum);
-    QFETCH(const int, value);
-    QFETCH(const int, anchor);
-    VantraStyleOptionSlider option;
-    option.rect = QRect(0, 0, 200, 22);
-    option.state = QStyle::State_Enabled;
-    option.minimum = minimum;
-    option.maximum = maximum;
-    option.sliderValue = option.sliderPosition = value;
-    option.subControls = QStyle::SC_SliderGroove;
-    const QImage ours = painted(option.rect, [&](QPainter &painter) {
-        mStyle.drawComplexControl(QStyle::CC_Slider, &option, &painter);
-    });
-    const QImage expected = painted(option.rect, [&](QPainter &painter) {
-        paintSlider(painter, option.rect, {minimum, maximum, value}, anchor);
-    });
-    QVERIFY(sameButForSeams(ours, expected));
-}
-
-// Half a pixel further, a kept picture would be blurred or off.
-void tst_VantraStyleShapes::picturesGiveWayToPaintingAtOddOffsets()
-{
-    const QRect rect(0, 0, 30, 30);
-    QStyleOptionButton option;
-    option.rect = QRect(4, 4, 16, 16);
-    option.state = QStyle::State_Enabled | QStyle::State_On;
-    const auto indicator = [&](double offset) {
-        return painted(rect, [&](QPainter &painter) {
-            painter.translate(offset, 0.0);
-            mStyle.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
-        });
-    };
-    const QColor accent = theme().colorPalette().color(VantraPalette::Normal, VantraPalette::Checkbox);
-    // The dot is four pixels wide, from 10 to 14; half a pixel on, its edges are shared by two columns each.
-    QCOMPARE(indicator(0.0).pixelColor(11, 12), accent);
-    QVERIFY(indicator(0.0) != indicator(0.5));
-    QCOMPARE(indicator(0.5).pixelColor(12, 12), accent);
-    QCOMPARE(indicator(1.0).copy(1, 0, 29, 30), indicator(0.0).copy(0, 0, 29, 30));
 }
 
 QTEST_MAIN(tst_VantraStyleShapes)

@@ -1,7 +1,20 @@
 #pragma once
 
-// What the painting tests of the style share: the stock theme's colours with the blue accent, usual states,
-// options of a size, and looks at a picture.
+// What the tests of the style share: every record, the stock theme's colours with the blue accent, usual
+// states, options of a size, and looks at a picture.
+
+#include "StyleOptions/VantraStyleOptionButton.h"
+#include "StyleOptions/VantraStyleOptionComboBox.h"
+#include "StyleOptions/VantraStyleOptionFramePane.h"
+#include "StyleOptions/VantraStyleOptionGroupBox.h"
+#include "StyleOptions/VantraStyleOptionLineEdit.h"
+#include "StyleOptions/VantraStyleOptionMenuItem.h"
+#include "StyleOptions/VantraStyleOptionSlider.h"
+#include "StyleOptions/VantraStyleOptionSpinBox.h"
+#include "StyleOptions/VantraStyleOptionTab.h"
+#include "StyleOptions/VantraStyleOptionTextEdit.h"
+#include "StyleOptions/VantraStyleOptionToolButton.h"
+#include "StyleOptions/VantraStyleOptionViewItem.h"
 
 #include <QtGui/QIcon>
 #include <QtGui/QImage>

@@ -27,29 +27,6 @@ public:
     using QLabel::QLabel;
 };
 
-struct Step
-{
-    int points;
-    const QFont &(*font)();
-    const QFont &(*immutableFont)();
-    int (*size)();
-    int (*immutableSize)();
-};
-
-using V = VantraFont;
-
-const Step kScale[] = {
-    {8, V::extraSmallFont, V::extraSmallFontImmutable, V::extraSmallFontSize, V::extraSmallFontSizeImmutable},
-    {9, V::smallFont, V::smallFontImmutable, V::smallFontSize, V::smallFontSizeImmutable},
-    {10, V::smallFontPlus, V::smallFontPlusImmutable, V::smallFontPlusSize, V::smallFontPlusSizeImmutable},
-    {11, V::mainFont, V::mainFontImmutable, V::mainFontSize, V::mainFontSizeImmutable},
-    {12, V::fontPlus, V::fontPlusImmutable, V::fontPlusSize, V::fontPlusSizeImmutable},
-    {13, V::largeFont, V::largeFontImmutable, V::largeFontSize, V::largeFontSizeImmutable},
-    {14, V::largeFontPlus, V::largeFontPlusImmutable, V::largeFontPlusSize, V::largeFontPlusSizeImmutable},
-    {18, V::extraLargeFont, V::extraLargeFontImmutable, V::extraLargeFontSize,
-     V::extraLargeFontSizeImmutable},
-};
-
 } // namespace
 
 FATAL_CASE(fontBeforeLoading)
@@ -106,158 +83,143 @@ class tst_VantraFont : public QObject
 
 private slots:
     void init() { QVERIFY(VantraFont::loadApplicationFonts()); }
-    void cleanup();
 
-    void misuseStopsTheProcess_data();
-    void misuseStopsTheProcess();
-    void scaleFollowsTheModifier();
-    void equalSizesShareOneFont();
-    void weightsAreReal();
-    void carriesAllStylesAndAnIconFont();
-    void pluginAndProgramLoadTogether();
-    void specialLabelsKeepTheirFont();
-};
+    void cleanup()
+    {
+        VantraFont::setUserSelectedFontPointSizeModifier(0);
+        VantraFont::unloadApplicationFonts();
+    }
 
-void tst_VantraFont::cleanup()
-{
-    VantraFont::setUserSelectedFontPointSizeModifier(0);
-    VantraFont::unloadApplicationFonts();
-}
+    void misuseStopsTheProcess_data()
+    {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<QString>("assertion");
 
-void tst_VantraFont::misuseStopsTheProcess_data()
-{
-    QTest::addColumn<QString>("platform");
-    QTest::addColumn<QString>("assertion");
+        const QString same;
+        const QString notLoaded = "kFontsInitialized && \"Fonts have not been initialized yet.\"";
+        const QString twice =
+            "sFontIDs.size() == 0 && \"VantraFont::loadApplicationFonts should only be called once.\"";
+        const QString modifier =
+            "VentraFont::setUserSelectedFontPointSizeModifier: User selected font modifier must "
+            "be equivalent to one of the UserSelectedFontSize enumerations.";
+        QTest::newRow("fontBeforeLoading") << same << notLoaded;
+        QTest::newRow("fontAfterUnloading") << same << notLoaded;
+        QTest::newRow("loadTwice") << same << twice;
+        QTest::newRow("loadTwiceAfterPlugin") << same << twice;
+        // The minimal platform knows no fonts.
+        QTest::newRow("fontsThatCannotBeAdded")
+            << QString("minimal") << QString("validFont && \"Failed to add all application fonts\"");
+        QTest::newRow("fontsThatAreGone")
+            << same << QString("result && \"Failed to remove application fonts\"");
+        QTest::newRow("modifierOf6") << same << modifier;
+        QTest::newRow("modifierBelow0") << same << modifier;
+    }
 
-    const QString same;
-    const QString notLoaded = "kFontsInitialized && \"Fonts have not been initialized yet.\"";
-    const QString twice =
-        "sFontIDs.size() == 0 && \"VantraFont::loadApplicationFonts should only be called once.\"";
-    const QString modifier =
-        "VentraFont::setUserSelectedFontPointSizeModifier: User selected font modifier must "
-        "be equivalent to one of the UserSelectedFontSize enumerations.";
-    QTest::newRow("fontBeforeLoading") << same << notLoaded;
-    QTest::newRow("fontAfterUnloading") << same << notLoaded;
-    QTest::newRow("loadTwice") << same << twice;
-    QTest::newRow("loadTwiceAfterPlugin") << same << twice;
-    // The minimal platform knows no fonts.
-    QTest::newRow("fontsThatCannotBeAdded")
-        << QString("minimal") << QString("validFont && \"Failed to add all application fonts\"");
-    QTest::newRow("fontsThatAreGone") << same << QString("result && \"Failed to remove application fonts\"");
-    QTest::newRow("modifierOf6") << same << modifier;
-    QTest::newRow("modifierBelow0") << same << modifier;
-}
+    void misuseStopsTheProcess()
+    {
+        QFETCH(QString, platform);
+        QTEST(FatalTest::assertionOf(QTest::currentDataTag(), platform), "assertion");
+    }
 
-void tst_VantraFont::misuseStopsTheProcess()
-{
-    QFETCH(QString, platform);
-    QTEST(FatalTest::assertionOf(QTest::currentDataTag(), platform), "assertion");
-}
-
-void tst_VantraFont::scaleFollowsTheModifier()
-{
-    for (const int modifier : {4, 2, 0}) {
-        VantraFont::setUserSelectedFontPointSizeModifier(modifier);
-        for (const Step &step : kScale) {
-            QCOMPARE(step.size(), step.points + modifier);
-            QCOMPARE(step.font().pointSize(), step.points + modifier);
-            QCOMPARE(step.immutableSize(), step.points);
-            QCOMPARE(step.immutableFont().pointSize(), step.points);
-            QCOMPARE(step.font().weight(), QFont::Normal);
-            QCOMPARE(step.font().family(), QString("Roboto"));
+    void scaleFollowsTheModifier()
+    {
+        for (const int modifier : {4, 2, 0}) {
+            VantraFont::setUserSelectedFontPointSizeModifier(modifier);
+            QCOMPARE(VantraFont::extraSmallFont().pointSize(), 8 + modifier);
+            QCOMPARE(VantraFont::extraSmallFontSize(), 8 + modifier);
+            QCOMPARE(VantraFont::extraSmallFontImmutable().pointSize(), 8);
+            QCOMPARE(VantraFont::extraLargeFontSize(), 18 + modifier);
+            QCOMPARE(VantraFont::extraLargeFontSizeImmutable(), 18);
+            QCOMPARE(VantraFont::largeFontPlus().pointSize(), 14 + modifier);
+            QCOMPARE(VantraFont::mainFont().weight(), QFont::Normal);
+            QCOMPARE(VantraFont::mainFont().family(), QString("Roboto"));
+            QCOMPARE(VantraFont().pointSize(), 11 + modifier);
+            QCOMPARE(VantraFont("Courier", 20).pointSize(), 20 + modifier);
         }
-        QCOMPARE(VantraFont().pointSize(), 11 + modifier);
-        QCOMPARE(VantraFont("Courier", 20).pointSize(), 20 + modifier);
-        QCOMPARE(VantraFont("Courier", 20).family(), QString("Courier"));
     }
-#if !defined(Q_OS_WIN)
-    QCOMPARE(int(VantraFont(20).styleStrategy()), QFont::PreferQuality | QFont::PreferAntialias);
-#endif
-}
 
-void tst_VantraFont::equalSizesShareOneFont()
-{
-    const QFont *plain = &VantraFont::mainFont();
-    VantraFont::setUserSelectedFontPointSizeModifier(2);
-    QCOMPARE(&VantraFont::mainFont(), &VantraFont::largeFontImmutable());
-    QCOMPARE(&VantraFont::smallFont(), plain);
-    QCOMPARE(plain->pointSize(), 11);
-}
-
-void tst_VantraFont::weightsAreReal()
-{
-    double lighter = 1.0;
-    for (const QFont::Weight weight : {QFont::Thin, QFont::Normal, QFont::Medium, QFont::Black}) {
-        QFont font = VantraFont::extraLargeFont();
-        font.setPointSize(48);
-        font.setWeight(weight);
-        const QImage image = ThemeFixture::paint(QSize(600, 100), [&](QPainter &ioPainter) {
-            ioPainter.setFont(font);
-            ioPainter.drawText(QRect(0, 0, 600, 100), Qt::AlignCenter, "Hamburgefonts");
-        });
-        const double ink = ThemeFixture::ink(image);
-        QVERIFY2(ink > lighter * 1.08,
-                 qPrintable(QString("%1: %2 after %3").arg(weight).arg(ink).arg(lighter)));
-        lighter = ink;
+    void equalSizesShareOneFont()
+    {
+        const QFont *plain = &VantraFont::mainFont();
+        VantraFont::setUserSelectedFontPointSizeModifier(2);
+        QCOMPARE(&VantraFont::mainFont(), &VantraFont::largeFontImmutable());
+        QCOMPARE(&VantraFont::smallFont(), plain);
+        QCOMPARE(plain->pointSize(), 11);
     }
-}
 
-void tst_VantraFont::carriesAllStylesAndAnIconFont()
-{
+    void weightsAreReal()
+    {
+        double lighter = 1.0;
+        for (const QFont::Weight weight : {QFont::Thin, QFont::Normal, QFont::Medium, QFont::Black}) {
+            QFont font = VantraFont::extraLargeFont();
+            font.setPointSize(48);
+            font.setWeight(weight);
+            const QImage image = ThemeFixture::paint(QSize(600, 100), [&](QPainter &ioPainter) {
+                ioPainter.setFont(font);
+                ioPainter.drawText(QRect(0, 0, 600, 100), Qt::AlignCenter, "Hamburgefonts");
+            });
+            const double ink = ThemeFixture::ink(image);
+            QVERIFY2(ink > lighter * 1.08,
+                     qPrintable(QString("%1: %2 after %3").arg(weight).arg(ink).arg(lighter)));
+            lighter = ink;
+        }
+    }
+
+    void carriesAllStylesAndAnIconFont()
+    {
 #if defined(Q_OS_LINUX)
-    QStringList styles = QFontDatabase::styles("Roboto");
-    styles.sort();
-    QCOMPARE(styles.join(", "),
-             QString("Black, Black Italic, Bold, Bold Italic, Italic, Light, Light Italic, Medium, "
-                     "Medium Italic, Regular, Thin, Thin Italic"));
-    QStringList families = QFontDatabase::families();
-    VantraFont::unloadApplicationFonts();
-    const QStringList without = QFontDatabase::families();
-    QVERIFY(!without.contains("Roboto"));
-    families.removeIf(
-        [&](const QString &inFamily) { return without.contains(inFamily) || inFamily.startsWith("Roboto"); });
-    QCOMPARE(families.size(), 1); // the icon font, whatever its name
+        QStringList styles = QFontDatabase::styles("Roboto");
+        styles.sort();
+        QCOMPARE(styles.join(", "),
+                 QString("Black, Black Italic, Bold, Bold Italic, Italic, Light, Light Italic, Medium, "
+                         "Medium Italic, Regular, Thin, Thin Italic"));
+        QStringList families = QFontDatabase::families();
+        VantraFont::unloadApplicationFonts();
+        const QStringList without = QFontDatabase::families();
+        QVERIFY(!without.contains("Roboto"));
+        families.removeIf([&](const QString &inFamily) {
+            return without.contains(inFamily) || inFamily.startsWith("Roboto");
+        });
+        QCOMPARE(families.size(), 1); // the icon font, whatever its name
 #else
-    QSKIP("The system's own fonts can't be told from the carried ones.");
+        QSKIP("The system's own fonts can't be told from the carried ones.");
 #endif
-}
-
-void tst_VantraFont::pluginAndProgramLoadTogether()
-{
-    QVERIFY(VantraFont::ensureApplicationFonts()); // the program was first
-    VantraFont::unloadApplicationFonts();
-    QVERIFY(VantraFont::ensureApplicationFonts()); // the plug-in was first
-    const QFont *font = &VantraFont::mainFont();
-    QVERIFY(VantraFont::loadApplicationFonts());
-    QCOMPARE(&VantraFont::mainFont(), font);
-}
-
-void tst_VantraFont::specialLabelsKeepTheirFont()
-{
-    QWidget window;
-    auto *panel = new QWidget(&window);
-    auto *button = new VantraButton(panel);
-    auto *textOnly = new VantraButton(panel);
-    textOnly->setProperty("textOnlyButtonStyle", true);
-    auto *groupLabel = new VantraGroupLabel(panel);
-    const QFont own("Courier", 7);
-    for (QWidget *widget : {static_cast<QWidget *>(button), static_cast<QWidget *>(textOnly),
-                            static_cast<QWidget *>(groupLabel)}) {
-        widget->setFont(own);
     }
 
-    VantraFont::setFont(VantraFont::largeFont(), &window);
-    QCOMPARE(window.font().pointSize(), 13);
-    QCOMPARE(button->font().pointSize(), 13);
-    QCOMPARE(textOnly->font().pointSize(), 7);
-    QCOMPARE(groupLabel->font().pointSize(), 7);
+    void pluginAndProgramLoadTogether()
+    {
+        QVERIFY(VantraFont::ensureApplicationFonts()); // the program was first
+        VantraFont::unloadApplicationFonts();
+        QVERIFY(VantraFont::ensureApplicationFonts()); // the plug-in was first
+        const QFont *font = &VantraFont::mainFont();
+        QVERIFY(VantraFont::loadApplicationFonts());
+        QCOMPARE(&VantraFont::mainFont(), font);
+    }
 
-    VantraFont::setFont(VantraFont::largeFont(), groupLabel); // named itself, it takes the font
-    QCOMPARE(groupLabel->font().pointSize(), 13);
-    VantraFont::setFont(VantraFont::smallFont(), QList<QWidget *>{groupLabel, panel});
-    QCOMPARE(groupLabel->font().pointSize(), 13);
-    QCOMPARE(panel->font().pointSize(), 9);
-}
+    void specialLabelsKeepTheirFont()
+    {
+        QWidget window;
+        auto *panel = new QWidget(&window);
+        auto *button = new VantraButton(panel);
+        auto *textOnly = new VantraButton(panel);
+        textOnly->setProperty("textOnlyButtonStyle", true);
+        auto *groupLabel = new VantraGroupLabel(panel);
+        for (QWidget *widget : std::initializer_list<QWidget *>{button, textOnly, groupLabel}) {
+            widget->setFont(QFont("Courier", 7));
+        }
+        VantraFont::setFont(VantraFont::largeFont(), &window);
+        QCOMPARE(window.font().pointSize(), 13);
+        QCOMPARE(button->font().pointSize(), 13);
+        QCOMPARE(textOnly->font().pointSize(), 7);
+        QCOMPARE(groupLabel->font().pointSize(), 7);
+
+        VantraFont::setFont(VantraFont::largeFont(), groupLabel); // named itself, it takes the font
+        QCOMPARE(groupLabel->font().pointSize(), 13);
+        VantraFont::setFont(VantraFont::smallFont(), QList<QWidget *>{groupLabel, panel});
+        QCOMPARE(groupLabel->font().pointSize(), 13);
+        QCOMPARE(panel->font().pointSize(), 9);
+    }
+};
 
 FATAL_TEST_MAIN(tst_VantraFont)
 #include "tst_VantraFont.moc"
