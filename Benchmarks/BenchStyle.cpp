@@ -54,58 +54,57 @@ struct Prepared
     Option option;
 };
 
-template <typename Widget, typename Option, typename Change>
-void primitive(const char *inName, QStyle::PrimitiveElement inElement, const QSize &inSize, double inTarget,
-               Change inChange)
+// inDraw paints the option: draw(style, option, painter, widget).
+template <typename Widget, typename Option, typename Draw, typename Change>
+void element(const char *inName, Draw inDraw, const QSize &inSize, double inTarget, Change inChange)
 {
     const auto make = [=](QStyle *style) {
         Prepared<Widget, Option> prepared(style, inSize);
         inChange(prepared.option);
-        return Sample{prepared.widget, [style, inElement, prepared](QPainter *painter) {
-                          style->drawPrimitive(inElement, &prepared.option, painter, prepared.widget.get());
+        return Sample{prepared.widget, [style, inDraw, prepared](QPainter *painter) {
+                          inDraw(*style, prepared.option, painter, prepared.widget.get());
                       }};
     };
     benchmark::RegisterBenchmark(inName, pairedPaint, MakeSample(make), inSize, inTarget)
         ->UseManualTime()
         ->Iterations(kRounds);
+}
+
+template <typename Widget, typename Option, typename Change>
+void primitive(const char *inName, QStyle::PrimitiveElement inElement, const QSize &inSize, double inTarget,
+               Change inChange)
+{
+    const auto draw = [inElement](QStyle &style, const Option &option, QPainter *painter, QWidget *widget) {
+        style.drawPrimitive(inElement, &option, painter, widget);
+    };
+    element<Widget, Option>(inName, draw, inSize, inTarget, inChange);
 }
 
 template <typename Widget, typename Option, typename Change>
 void control(const char *inName, QStyle::ControlElement inElement, const QSize &inSize, double inTarget,
              Change inChange)
 {
-    const auto make = [=](QStyle *style) {
-        Prepared<Widget, Option> prepared(style, inSize);
-        inChange(prepared.option);
-        return Sample{prepared.widget, [style, inElement, prepared](QPainter *painter) {
-                          style->drawControl(inElement, &prepared.option, painter, prepared.widget.get());
-                      }};
+    const auto draw = [inElement](QStyle &style, const Option &option, QPainter *painter, QWidget *widget) {
+        style.drawControl(inElement, &option, painter, widget);
     };
-    benchmark::RegisterBenchmark(inName, pairedPaint, MakeSample(make), inSize, inTarget)
-        ->UseManualTime()
-        ->Iterations(kRounds);
+    element<Widget, Option>(inName, draw, inSize, inTarget, inChange);
 }
 
 template <typename Widget, typename Option, typename Change>
 void complex(const char *inName, QStyle::ComplexControl inControl, const QSize &inSize, double inTarget,
              Change inChange, bool inWithLabel = false)
 {
-    const auto make = [=](QStyle *style) {
-        Prepared<Widget, Option> prepared(style, inSize);
-        prepared.option.subControls = QStyle::SC_All;
-        inChange(prepared.option);
-        return Sample{prepared.widget, [=](QPainter *painter) {
-                          style->drawComplexControl(inControl, &prepared.option, painter,
-                                                    prepared.widget.get());
-                          if (inWithLabel) {
-                              style->drawControl(QStyle::CE_ComboBoxLabel, &prepared.option, painter,
-                                                 prepared.widget.get());
-                          }
-                      }};
+    const auto draw = [=](QStyle &style, const Option &option, QPainter *painter, QWidget *widget) {
+        style.drawComplexControl(inControl, &option, painter, widget);
+        if (inWithLabel) {
+            style.drawControl(QStyle::CE_ComboBoxLabel, &option, painter, widget);
+        }
     };
-    benchmark::RegisterBenchmark(inName, pairedPaint, MakeSample(make), inSize, inTarget)
-        ->UseManualTime()
-        ->Iterations(kRounds);
+    const auto change = [inChange](Option &option) {
+        option.subControls = QStyle::SC_All;
+        inChange(option);
+    };
+    element<Widget, Option>(inName, draw, inSize, inTarget, change);
 }
 
 void asItIs(QStyleOption &)
