@@ -6,7 +6,6 @@
 //
 // Pictures are kept by shape, size and colour, so a changed theme needs no flush. GUI thread only.
 
-#include <QtCore/QSize>
 #include <QtGui/QColor>
 #include <QtGui/QPainter>
 
@@ -40,14 +39,11 @@ struct Key
 // True when pictures may stand in for painting on this painter, as it is set up now.
 bool applies(const QPainter *inPainter);
 
-// The picture of a key, size by size; made by inPaint, on a transparent ground, the first time.
-template <typename Paint>
-const QImage &picture(const Key &inKey, Paint inPaint);
-
 const QImage *find(const Key &inKey);
 const QImage &insert(const Key &inKey, const QImage &inImage);
 QImage blank(const Key &inKey);
 
+// The picture of a key, size by size; made by inPaint, on a transparent ground, the first time.
 template <typename Paint>
 const QImage &picture(const Key &inKey, Paint inPaint)
 {

@@ -46,7 +46,7 @@ void VantraStyleHelperSlider::drawGroove(const VantraStyleOptionSlider &sliderOp
     Q_ASSERT(adjRect.isValid() && !adjRect.isNull());
 
     // The groove's round ends also bound the value span. Both are the rounded shape itself, the span through
-    // a rectangle of whole pixels: that comes to the same as a clip of the shape, and costs far less.
+    // a rectangle between whole pixels: that comes to the same as a clip of the shape, and costs far less.
     painter->setClipping(false);
     const int radius = mTheme->grooveRadius();
     painter->drawRoundedRect(adjRect, radius, radius, Qt::AbsoluteSize);
@@ -65,7 +65,10 @@ void VantraStyleHelperSlider::drawValueSpan(const VantraStyleOptionSlider &optio
     const int anchor = positionOf(anchorOf(option));
     const int value = positionOf(option.sliderValue);
     const int radius = mTheme->grooveRadius();
-    painter->setClipRect(QRectF(anchor, groove.y(), value - anchor, groove.height()).normalized(),
+    // The shape bounds the span above and below, where a groove may end within a pixel.
+    painter->setClipRect(QRectF(anchor, groove.y(), value - anchor, groove.height())
+                             .normalized()
+                             .adjusted(0.0, -1.0, 0.0, 1.0),
                          Qt::ReplaceClip);
     painter->setBrush(mTheme->sliderValueBrush(&option));
     painter->drawRoundedRect(groove, radius, radius, Qt::AbsoluteSize);

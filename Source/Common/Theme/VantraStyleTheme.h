@@ -101,21 +101,24 @@ public:
                                 QWidget *ioWidget) const;
 
     // Check box
-    QMargins checkboxPadding(const QStyleOption *inOption) const;
-    int checkboxOuterSize(const QStyleOption *inOption) const;
-    int checkboxOuterBorderSize(const QStyleOption *inOption) const;
-    int checkboxInnerSize(const QStyleOption *inOption) const;
+    QMargins checkboxPadding(const QStyleOption *) const { return mCheckboxPadding; }
+    int checkboxOuterSize(const QStyleOption *) const { return mCheckboxOuterSize; }
+    int checkboxOuterBorderSize(const QStyleOption *) const { return mCheckboxOuterBorderSize; }
+    int checkboxInnerSize(const QStyleOption *) const { return mCheckboxInnerSize; }
     QColor checkboxColor(const QStyleOption *inOption) const;
     QColor checkMarkColor(const QStyle::State &inState) const;
 
     // Scroll bar and progress bar
-    int scrollBarHitSize(const QStyleOption *inOption) const;
-    int scrollBarVisualSize(const QStyleOption *inOption) const;
+    int scrollBarHitSize(const QStyleOption *) const { return mScrollBarHitSize; }
+    int scrollBarVisualSize(const QStyleOption *) const { return mScrollBarVisualSize; }
     QBrush scrollBarBrush(const QStyleOption *inOption) const;
-    int progressBarSize(const QStyleOption *inOption) const;
+    int progressBarSize(const QStyleOption *) const { return mProgressBarSize; }
     QBrush progressBarGrooveBrush(const QStyleOption *inOption) const;
     QBrush progressBarContentsBrush(const QStyleOption *inOption) const;
-    std::chrono::milliseconds progressBarAnimationDuration(const QStyleOption *inOption) const;
+    std::chrono::milliseconds progressBarAnimationDuration(const QStyleOption *) const
+    {
+        return std::chrono::milliseconds(2000);
+    }
 
     // Frame and pane
     QBrush frameBrush(const VantraStyleOptionFrame *inOption) const;
@@ -123,7 +126,7 @@ public:
     int paneRadius(const VantraStyleOptionFramePane *inOption) const;
     QColor paneBackgroundColor(VantraPalette::PaletteGroup inGroup) const;
     QColor paneBackgroundColor(const VantraStyleOptionFramePane *inOption) const;
-    int paneLineWidth(const VantraStyleOptionFramePane *inOption) const;
+    int paneLineWidth(const VantraStyleOptionFramePane *) const { return mPaneLineWidth; }
     QColor paneLineColor(const VantraStyleOptionFramePane *inOption) const;
 
     // Slider
@@ -142,23 +145,23 @@ public:
 
     // Button
     QMargins buttonPadding(const VantraStyleOptionButton *inOption) const;
-    int buttonSpacing(const VantraStyleOptionButton *inOption) const;
+    int buttonSpacing(const VantraStyleOptionButton *) const { return static_cast<int>(mButtonSpacing); }
     VantraCornerRadii buttonRadii(const VantraStyleOptionButton *inOption) const;
     QBrush buttonBackgroundBrush(const VantraStyleOptionButton *inOption) const;
 
     // View item
-    QMargins viewItemPadding(const VantraStyleOptionViewItem *inOption) const;
+    QMargins viewItemPadding(const VantraStyleOptionViewItem *) const { return mViewItemPadding; }
     int viewItemIndent(const VantraStyleOptionViewItem *inOption) const;
-    int viewItemSpacing(const VantraStyleOptionViewItem *inOption) const;
+    int viewItemSpacing(const VantraStyleOptionViewItem *) const { return mViewItemSpacing; }
     QBrush viewItemBrush(const VantraStyleOptionViewItem *inOption) const;
-    int viewItemDropLineWidth(const QStyleOption *inOption) const;
+    int viewItemDropLineWidth(const QStyleOption *) const { return mViewItemDropLineWidth; }
     QColor viewItemDropLineColor(const QStyleOption *inOption) const;
 
     // Combo box
     QBrush comboBoxBrush(const VantraStyleOptionComboBox *inOption) const;
     VantraCornerRadii comboBoxRadii(const VantraStyleOptionComboBox *inOption) const;
-    QMargins comboBoxPadding(const VantraStyleOptionComboBox *inOption) const;
-    double comboBoxSpacing(const VantraStyleOptionComboBox *inOption) const;
+    QMargins comboBoxPadding(const VantraStyleOptionComboBox *) const { return mComboBoxPadding; }
+    double comboBoxSpacing(const VantraStyleOptionComboBox *) const { return mComboBoxSpacing; }
 
     // Line edit. The text "colour" is a brush.
     QBrush lineEditBackgroundBrush(const VantraStyleOptionLineEdit *inOption) const;
@@ -169,26 +172,32 @@ public:
     // Tool button
     QMargins toolButtonPadding(const VantraStyleOptionToolButton *inOption) const;
     double toolButtonSpacing(const VantraStyleOptionToolButton *inOption) const;
-    int toolButtonIconBackgroundRadius(const VantraStyleOptionToolButton *inOption) const;
+    int toolButtonIconBackgroundRadius(const VantraStyleOptionToolButton *) const
+    {
+        return static_cast<int>(mToolButtonIconBackgroundRadius);
+    }
     VantraCornerRadii toolButtonRadii(const VantraStyleOptionToolButton *inOption) const;
     QBrush toolButtonIconBackgroundBrush(const VantraStyleOptionToolButton *inOption) const;
     QBrush toolButtonBackgroundBrush(const VantraStyleOptionToolButton *inOption) const;
 
     // Splitter
     QBrush splitterBackgroundBrush(const QStyleOption *inOption) const;
-    int splitterHandleSize(const QStyleOption *inOption) const;
+    int splitterHandleSize(const QStyleOption *) const { return 16; }
     QBrush splitterHandleBrush(const QStyleOption *inOption) const;
 
     // Tab bar
-    QMargins tabBarPadding(const VantraStyleOptionTab *inOption) const;
-    VantraCornerRadii tabBarRadii(const VantraStyleOptionTab *inOption) const;
-    int tabBarSpacing(const VantraStyleOptionTab *inOption) const;
+    QMargins tabBarPadding(const VantraStyleOptionTab *) const { return mTabBarPadding; }
+    VantraCornerRadii tabBarRadii(const VantraStyleOptionTab *) const
+    {
+        return VantraCornerRadii(static_cast<int>(mTabBarRadius));
+    }
+    int tabBarSpacing(const VantraStyleOptionTab *) const { return static_cast<int>(mTabBarSpacing); }
     QBrush tabBarBackgroundBrush(const VantraStyleOptionTab *inOption) const;
 
     // Spin box
     VantraCornerRadii spinBoxRadii(const VantraStyleOptionSpinBox *inOption) const;
-    int spinBoxSpacing(const VantraStyleOptionSpinBox *inOption) const;
-    QMargins spinBoxPadding(const VantraStyleOptionSpinBox *inOption) const;
+    int spinBoxSpacing(const VantraStyleOptionSpinBox *) const { return static_cast<int>(mSpinBoxSpacing); }
+    QMargins spinBoxPadding(const VantraStyleOptionSpinBox *) const { return mSpinBoxPadding; }
     QBrush spinBoxBackgroundBrush(const VantraStyleOptionSpinBox *inOption) const;
     QColor spinBoxTextColor(const VantraStyleOptionSpinBox *inOption) const;
 
@@ -196,14 +205,14 @@ public:
     QBrush menuItemBrush(const VantraStyleOptionMenuItem *inOption) const;
     QColor menuItemLineColor(const VantraStyleOptionMenuItem *inOption) const;
     QColor menuItemCheckColor(const VantraStyleOptionMenuItem *inOption) const;
-    QMargins menuItemPadding(const VantraStyleOptionMenuItem *inOption) const;
-    int menuItemSpacing(const VantraStyleOptionMenuItem *inOption) const;
-    int menuItemRadius(const VantraStyleOptionMenuItem *inOption) const;
+    QMargins menuItemPadding(const VantraStyleOptionMenuItem *) const { return mMenuItemPadding; }
+    int menuItemSpacing(const VantraStyleOptionMenuItem *) const { return mMenuItemSpacing; }
+    int menuItemRadius(const VantraStyleOptionMenuItem *) const { return mMenuItemRadius; }
 
     // Group box
     QBrush groupBoxFrameBrush(const VantraStyleOptionGroupBox *inOption) const;
     QBrush groupBoxContentsBrush(const VantraStyleOptionGroupBox *inOption) const;
-    VantraCornerRadii groupBoxRadii(const VantraStyleOptionGroupBox *inOption) const;
+    VantraCornerRadii groupBoxRadii(const VantraStyleOptionGroupBox *) const { return VantraCornerRadii(5); }
 
     // Preset browser: fixed, whatever the theme files say.
     QFont presetBrowserFont() const;

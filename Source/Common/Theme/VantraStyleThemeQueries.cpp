@@ -187,26 +187,6 @@ void VantraStyleTheme::adjustFontAndTextColor(Group inGroup, Role inRole, QWidge
 
 // Check box
 
-QMargins VantraStyleTheme::checkboxPadding(const QStyleOption *) const
-{
-    return mCheckboxPadding;
-}
-
-int VantraStyleTheme::checkboxOuterSize(const QStyleOption *) const
-{
-    return mCheckboxOuterSize;
-}
-
-int VantraStyleTheme::checkboxOuterBorderSize(const QStyleOption *) const
-{
-    return mCheckboxOuterBorderSize;
-}
-
-int VantraStyleTheme::checkboxInnerSize(const QStyleOption *) const
-{
-    return mCheckboxInnerSize;
-}
-
 QColor VantraStyleTheme::checkboxColor(const QStyleOption *inOption) const
 {
     if (qobject_cast<QMenu *>(inOption->styleObject) != nullptr) {
@@ -222,24 +202,9 @@ QColor VantraStyleTheme::checkMarkColor(const QStyle::State &inState) const
 
 // Scroll bar and progress bar
 
-int VantraStyleTheme::scrollBarHitSize(const QStyleOption *) const
-{
-    return mScrollBarHitSize;
-}
-
-int VantraStyleTheme::scrollBarVisualSize(const QStyleOption *) const
-{
-    return mScrollBarVisualSize;
-}
-
 QBrush VantraStyleTheme::scrollBarBrush(const QStyleOption *inOption) const
 {
     return mColorPalette.brush(groupOf(inOption->state, kHover), VantraPalette::ScrollBar);
-}
-
-int VantraStyleTheme::progressBarSize(const QStyleOption *) const
-{
-    return mProgressBarSize;
 }
 
 QBrush VantraStyleTheme::progressBarGrooveBrush(const QStyleOption *inOption) const
@@ -250,11 +215,6 @@ QBrush VantraStyleTheme::progressBarGrooveBrush(const QStyleOption *inOption) co
 QBrush VantraStyleTheme::progressBarContentsBrush(const QStyleOption *inOption) const
 {
     return mColorPalette.brush(groupOf(inOption->state), VantraPalette::ProgressBarContents);
-}
-
-std::chrono::milliseconds VantraStyleTheme::progressBarAnimationDuration(const QStyleOption *) const
-{
-    return std::chrono::milliseconds(2000);
 }
 
 // Frame and pane
@@ -293,11 +253,6 @@ QColor VantraStyleTheme::paneBackgroundColor(const VantraStyleOptionFramePane *i
     const bool highlighted = inOption->paneBorderStyle != VantraFramePane::PaneBorderStyleNone &&
                              inOption->paneState.testFlag(VantraFramePane::PaneStateSelected);
     return paneBackgroundColor(highlighted ? VantraPalette::Highlighted : groupOf(inOption->state));
-}
-
-int VantraStyleTheme::paneLineWidth(const VantraStyleOptionFramePane *) const
-{
-    return mPaneLineWidth;
 }
 
 QColor VantraStyleTheme::paneLineColor(const VantraStyleOptionFramePane *inOption) const
@@ -376,11 +331,6 @@ QMargins VantraStyleTheme::buttonPadding(const VantraStyleOptionButton *inOption
     return padding;
 }
 
-int VantraStyleTheme::buttonSpacing(const VantraStyleOptionButton *) const
-{
-    return static_cast<int>(mButtonSpacing);
-}
-
 VantraCornerRadii VantraStyleTheme::buttonRadii(const VantraStyleOptionButton *inOption) const
 {
     const int pill = pillRadius(inOption->rect);
@@ -423,29 +373,14 @@ QBrush VantraStyleTheme::buttonBackgroundBrush(const VantraStyleOptionButton *in
 
 // View item
 
-QMargins VantraStyleTheme::viewItemPadding(const VantraStyleOptionViewItem *) const
-{
-    return mViewItemPadding;
-}
-
 int VantraStyleTheme::viewItemIndent(const VantraStyleOptionViewItem *inOption) const
 {
     return inOption->useIndent ? mViewItemIndent : 0;
 }
 
-int VantraStyleTheme::viewItemSpacing(const VantraStyleOptionViewItem *) const
-{
-    return mViewItemSpacing;
-}
-
 QBrush VantraStyleTheme::viewItemBrush(const VantraStyleOptionViewItem *inOption) const
 {
     return solidBrush(groupOf(inOption->state, kSelected), VantraPalette::ViewItemBackground);
-}
-
-int VantraStyleTheme::viewItemDropLineWidth(const QStyleOption *) const
-{
-    return mViewItemDropLineWidth;
 }
 
 QColor VantraStyleTheme::viewItemDropLineColor(const QStyleOption *inOption) const
@@ -467,16 +402,6 @@ VantraCornerRadii VantraStyleTheme::comboBoxRadii(const VantraStyleOptionComboBo
 {
     const bool none = inOption->backgroundStyle == VantraComboBoxBase::BackgroundStyleNone;
     return VantraCornerRadii(none ? 0 : pillRadius(inOption->rect));
-}
-
-QMargins VantraStyleTheme::comboBoxPadding(const VantraStyleOptionComboBox *) const
-{
-    return mComboBoxPadding;
-}
-
-double VantraStyleTheme::comboBoxSpacing(const VantraStyleOptionComboBox *) const
-{
-    return mComboBoxSpacing;
 }
 
 // Line edit
@@ -531,11 +456,6 @@ double VantraStyleTheme::toolButtonSpacing(const VantraStyleOptionToolButton *in
     return mToolButtonSpacing;
 }
 
-int VantraStyleTheme::toolButtonIconBackgroundRadius(const VantraStyleOptionToolButton *) const
-{
-    return static_cast<int>(mToolButtonIconBackgroundRadius);
-}
-
 VantraCornerRadii VantraStyleTheme::toolButtonRadii(const VantraStyleOptionToolButton *inOption) const
 {
     return VantraCornerRadii(isPill(inOption->backgroundStyle) ? pillRadius(inOption->rect) : 0);
@@ -575,32 +495,12 @@ QBrush VantraStyleTheme::splitterBackgroundBrush(const QStyleOption *inOption) c
     return solidBrush(groupOf(inOption->state, kSunkenOrHover), VantraPalette::SplitterBackground);
 }
 
-int VantraStyleTheme::splitterHandleSize(const QStyleOption *) const
-{
-    return 16;
-}
-
 QBrush VantraStyleTheme::splitterHandleBrush(const QStyleOption *inOption) const
 {
     return solidBrush(groupOf(inOption->state, kSunkenOrHover), VantraPalette::SplitterHandle);
 }
 
 // Tab bar
-
-QMargins VantraStyleTheme::tabBarPadding(const VantraStyleOptionTab *) const
-{
-    return mTabBarPadding;
-}
-
-VantraCornerRadii VantraStyleTheme::tabBarRadii(const VantraStyleOptionTab *) const
-{
-    return VantraCornerRadii(static_cast<int>(mTabBarRadius));
-}
-
-int VantraStyleTheme::tabBarSpacing(const VantraStyleOptionTab *) const
-{
-    return static_cast<int>(mTabBarSpacing);
-}
 
 QBrush VantraStyleTheme::tabBarBackgroundBrush(const VantraStyleOptionTab *inOption) const
 {
@@ -612,16 +512,6 @@ QBrush VantraStyleTheme::tabBarBackgroundBrush(const VantraStyleOptionTab *inOpt
 VantraCornerRadii VantraStyleTheme::spinBoxRadii(const VantraStyleOptionSpinBox *inOption) const
 {
     return VantraCornerRadii(inOption->rect.height() / 2);
-}
-
-int VantraStyleTheme::spinBoxSpacing(const VantraStyleOptionSpinBox *) const
-{
-    return static_cast<int>(mSpinBoxSpacing);
-}
-
-QMargins VantraStyleTheme::spinBoxPadding(const VantraStyleOptionSpinBox *) const
-{
-    return mSpinBoxPadding;
 }
 
 QBrush VantraStyleTheme::spinBoxBackgroundBrush(const VantraStyleOptionSpinBox *inOption) const
@@ -655,21 +545,6 @@ QColor VantraStyleTheme::menuItemCheckColor(const VantraStyleOptionMenuItem *inO
     return checkMarkColor(inOption->state);
 }
 
-QMargins VantraStyleTheme::menuItemPadding(const VantraStyleOptionMenuItem *) const
-{
-    return mMenuItemPadding;
-}
-
-int VantraStyleTheme::menuItemSpacing(const VantraStyleOptionMenuItem *) const
-{
-    return mMenuItemSpacing;
-}
-
-int VantraStyleTheme::menuItemRadius(const VantraStyleOptionMenuItem *) const
-{
-    return mMenuItemRadius;
-}
-
 // Group box
 
 QBrush VantraStyleTheme::groupBoxFrameBrush(const VantraStyleOptionGroupBox *inOption) const
@@ -680,11 +555,6 @@ QBrush VantraStyleTheme::groupBoxFrameBrush(const VantraStyleOptionGroupBox *inO
 QBrush VantraStyleTheme::groupBoxContentsBrush(const VantraStyleOptionGroupBox *inOption) const
 {
     return solidBrush(groupOf(inOption->state, kSelected), VantraPalette::GroupBoxContentsBackground);
-}
-
-VantraCornerRadii VantraStyleTheme::groupBoxRadii(const VantraStyleOptionGroupBox *) const
-{
-    return VantraCornerRadii(5);
 }
 
 // Preset browser
