@@ -25,7 +25,10 @@ RULES = [
     (r"Controls/.*\.h", rf"{PALETTES}|Controls/.*"),
     (r"StyleOptions/.*", rf"{PALETTES}|(Controls|StyleOptions)/.*"),
     (r"Style/.*", r"(Theme|StyleOptions|Style)/.*"),
-    (r"Controls/.*", r"(Theme|StyleOptions|Controls)/.*"),
+    # Pictures enter all controls by one door; a tool button also hands itself to the filter of the rich tips.
+    (r"Controls/VantraToolButton\.cpp",
+     r"(Theme|StyleOptions|Controls)/.*|Utilities/VTWidgetsImageUtils\.h|ToolTips/VantraToolTipFilter\.h"),
+    (r"Controls/.*", r"(Theme|StyleOptions|Controls)/.*|Utilities/VTWidgetsImageUtils\.h"),
     (r"Utilities/.*", r"(Theme|StyleOptions|Controls|Utilities)/.*"),
     (r"ToolTips/.*", r"(Theme|StyleOptions|Controls|Utilities|ToolTips)/.*"),
     (r"Window/.*", r"(Theme|StyleOptions|Controls|Utilities|ToolTips|Window)/.*"),
