@@ -1,5 +1,8 @@
 # Compile options that every target of this project shares.
 
+# The folders of Source/Common, each of which is on the include path of the library's users.
+set(VTWIDGETS_FOLDERS Controls Style StyleOptions Theme Utilities)
+
 # vtwidgets_target_options(TARGET): warnings, active assertions, sanitizers.
 function(vtwidgets_target_options target)
     # Assertions are part of the behaviour: a programming error stops released programs too.

@@ -29,10 +29,11 @@ refuses() {
 refuses '"nonsense"' nonsense
 refuses '"nonsense"' test nonsense
 refuses '"--chekc"' format --chekc
+refuses '"--tyr"' package --tyr
 refuses '"soon"' fuzz soon
 
 "$run" help >"$work/help" || fail "run help failed"
-for command in gallery test bench check-windows format fuzz; do
+for command in gallery test bench check-windows package format fuzz; do
     grep -q "^\./run $command" "$work/help" || fail "run help does not name $command"
 done
 
