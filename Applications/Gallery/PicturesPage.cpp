@@ -147,18 +147,21 @@ private:
                 row->setSpacing(kSpacing);
                 row->addStretch();
                 body->addLayout(row);
+                body->addSpacing(kRowGap);
                 room = kRowWidth;
             }
             auto *column = new QVBoxLayout;
+            column->setSpacing(4);
             column->addWidget(picture);
             column->addWidget(caption);
-            column->addStretch();
+            column->addStretch(1);
             row->insertLayout(row->count() - 1, column);
             room -= width + kSpacing;
         }
     }
 
     static constexpr int kSpacing = 24;
+    static constexpr int kRowGap = 8;
     // What fits beside the sidebar of a window of the usual size, in pixels.
     static constexpr int kRowWidth = 920;
 };
