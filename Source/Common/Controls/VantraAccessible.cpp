@@ -28,13 +28,14 @@ public:
 
     QString text(QAccessible::Text inText) const override
     {
-        if (inText == QAccessible::Description && label()->accessibleDescription().isEmpty()) {
+        const QString base = QAccessibleWidget::text(inText);
+        if (inText == QAccessible::Description && base.isEmpty()) {
             return label()->mToolTip;
         }
-        if (inText != QAccessible::Name || !label()->accessibleName().isEmpty()) {
-            return QAccessibleWidget::text(inText);
-        }
         const QString shown = label()->text();
+        if (inText != QAccessible::Name || !label()->accessibleName().isEmpty() || shown.isEmpty()) {
+            return base;
+        }
         const Qt::TextFormat format = label()->textFormat();
         if (format == Qt::RichText || (format == Qt::AutoText && Qt::mightBeRichText(shown))) {
             QTextDocument document;
