@@ -9,6 +9,8 @@ GalleryPage *makePalettePage(QWidget *inParent);
 GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
+GalleryPage *makeButtonsPage(QWidget *inParent);
+GalleryPage *makeLabelsPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
@@ -21,6 +23,8 @@ constexpr GalleryPageEntry kPages[] = {
     {"type", "Type", &makeTypePage},
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
+    {"buttons", "Buttons", &makeButtonsPage},
+    {"labels", "Labels", &makeLabelsPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
