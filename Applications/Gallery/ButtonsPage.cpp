@@ -163,7 +163,7 @@ void addRoles(QVBoxLayout *ioLayout)
         VantraButton *button = makeButton(QStringLiteral("Export"));
         button->setButtonStyle(VantraButton::LeftAndRightCapButtonAccentStyle);
         button->setBackgroundButtonRole(static_cast<VantraPalette::PaletteRole>(roles.value(index)));
-        grid.add(name, button);
+        grid.add(name.chopped(int(qstrlen("ButtonBackground"))), button);
     }
 }
 
@@ -257,6 +257,8 @@ public:
 
     void refresh() override
     {
+        // The width counts the caps, which are round for the height of the first pass.
+        mDragged->adjustSize();
         mDragged->adjustSize();
         mDragPicture->setPixmap(mDragged->getDragPixmap());
     }

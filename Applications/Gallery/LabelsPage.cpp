@@ -97,6 +97,7 @@ void addClicks(QVBoxLayout *ioLayout)
     row->setSpacing(48);
     ioLayout->addLayout(row);
     auto *targets = new QVBoxLayout;
+    targets->setSpacing(8);
     row->addLayout(targets);
     auto *log = new EventLog;
     row->addWidget(log);
@@ -119,7 +120,7 @@ void addClicks(QVBoxLayout *ioLayout)
     add(QStringLiteral("Click"), false, true);
     add(QStringLiteral("Press and hold"), true, true);
     add(QStringLiteral("Disabled"), true, false);
-    targets->addStretch(1);
+    targets->addStretch();
 }
 
 class LabelsPage : public GalleryPage
