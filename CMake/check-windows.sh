@@ -31,7 +31,7 @@ for folder in Source/Common/*/ Source/Platform/*/; do
     flags+=(-I "$folder")
 done
 
-mapfile -t sources < <(find Source Plugins Applications -name '*.cpp' ! -name '*_other.cpp' | sort)
+mapfile -t sources < <(find Source Plugins Applications Resources/Tools -name '*.cpp' ! -name '*_other.cpp' | sort)
 
 # Meta-object code is not generated here, so what sources include of it is empty.
 mkdir "$work/moc"
