@@ -1,5 +1,6 @@
 #include "Controls/VantraLabel.h"
 
+#include "Controls/VantraAccessible.h"
 #include "Controls/VantraMouseHoldInfo.h"
 #include "Theme/VantraFont.h"
 #include "Utilities/VTWidgetsImageUtils.h"
@@ -25,6 +26,7 @@ VantraLabel::VantraLabel(QWidget *inParent) : QLabel(inParent), mMouseHoldInfo(n
 {
     setFont(VantraFont::mainFont());
     setIndent(0);
+    VantraAccessible::install();
 }
 
 VantraLabel::~VantraLabel()
