@@ -6,25 +6,6 @@
 #include <QtCore/QVariant>
 #include <QtGui/QKeySequence>
 
-namespace {
-
-QAccessibleInterface *makeInterface(const QString &inClass, QObject *inObject)
-{
-    // A subclass is asked for under its own name first, and may have another face.
-    if (inClass != QLatin1String(VantraToolButton::staticMetaObject.className())) {
-        return nullptr;
-    }
-    auto *button = qobject_cast<VantraToolButton *>(inObject);
-    return button == nullptr ? nullptr : new VantraAccessibleToolButton(button);
-}
-
-} // namespace
-
-void VantraAccessibleToolButton::install()
-{
-    QAccessible::installFactory(&makeInterface);
-}
-
 VantraAccessibleToolButton::VantraAccessibleToolButton(VantraToolButton *inButton)
     : QAccessibleWidget(inButton)
 {

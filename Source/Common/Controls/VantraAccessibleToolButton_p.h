@@ -3,9 +3,9 @@
 // The face of a VantraToolButton to assistive technology. Qt's own one names a button by its text, which a
 // button of a tool bar doesn't have; this one falls back on the tool name.
 //
-//     VantraAccessibleToolButton::install();   // each button does so
+//     return new VantraAccessibleToolButton(button);   // in the factory of VantraAccessible
 //
-// Made and owned by QAccessible. GUI thread only.
+// Owned by QAccessible. GUI thread only.
 
 #include <QtWidgets/QAccessibleWidget>
 
@@ -14,9 +14,6 @@ class VantraToolButton;
 class VantraAccessibleToolButton : public QAccessibleWidget
 {
 public:
-    // Makes QAccessible use this class for all tool buttons of the library. Calls after the first do nothing.
-    static void install();
-
     explicit VantraAccessibleToolButton(VantraToolButton *inButton);
 
     QString text(QAccessible::Text inText) const override;

@@ -1,6 +1,6 @@
 #include "Controls/VantraToolButton.h"
 
-#include "Controls/VantraAccessibleToolButton_p.h"
+#include "Controls/VantraAccessible.h"
 #include "StyleOptions/VantraStyleOptionToolButton.h"
 #include "Theme/VantraFont.h"
 #include "ToolTips/VantraToolTipFilter.h"
@@ -103,7 +103,7 @@ VantraToolButton::~VantraToolButton()
 void VantraToolButton::init(ButtonStyle inStyle)
 {
     initButtonImageMap();
-    VantraAccessibleToolButton::install();
+    VantraAccessible::install();
     setFont(VantraFont::mainFont());
     setCheckable(true);
     setButtonStyle(inStyle);
