@@ -185,6 +185,7 @@ private:
         addTools(top, kStyles);
         top->addSpacing(12);
         addTools(top, kAlignments, true);
+        top->addSpacing(12);
         top->addStretch();
         addTools(top, kCommands);
 
@@ -265,12 +266,20 @@ private:
                 ioButton->setButtonStyle(Tool::ButtonStyle(styleNames.value(index)));
             });
         }
-        StateTable grounds(addSection(QStringLiteral("Background styles")));
+        StateTable grounds(addSection(
+            QStringLiteral("Background styles"),
+            QStringLiteral("Icons take the colour of the text. On the alternate background that would "
+                           "vanish: such a button has an icon with a colour of its own.")));
+        const QImage dark = DrawnIcons::image(DrawnIcons::picture(QColor(84, 84, 84)));
         const QMetaEnum groundNames = QMetaEnum::fromType<Tool::BackgroundStyle>();
         for (int index = 0; index < groundNames.keyCount(); ++index) {
+            const auto ground = Tool::BackgroundStyle(groundNames.value(index));
             grounds.addRow(QLatin1String(groundNames.key(index)), [&](Tool *ioButton) {
-                ioButton->initOnOffStyle(image, VantraIconPalette::IconTintingForeground);
-                ioButton->setBackgroundStyle(Tool::BackgroundStyle(groundNames.value(index)));
+                if (ground == Tool::BackgroundStyleAlternateButton)
+                    ioButton->initOnOffStyle(dark, VantraIconPalette::IconTintingNone);
+                else
+                    ioButton->initOnOffStyle(image, VantraIconPalette::IconTintingForeground);
+                ioButton->setBackgroundStyle(ground);
             });
         }
         grounds.addRow(QStringLiteral("of a role, the green accent"), [&](Tool *ioButton) {

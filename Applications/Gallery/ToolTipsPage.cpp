@@ -68,20 +68,31 @@ QWidget *makeStandingTip(const Lesson &inLesson, QWidget *inParent)
     return frame;
 }
 
+// A button above the name of its direction.
+QWidget *makeCaptioned(QWidget *inButton, const QString &inCaption)
+{
+    auto *widget = new QWidget;
+    auto *layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(inButton, 0, Qt::AlignHCenter);
+    layout->addWidget(makeCaption(inCaption), 0, Qt::AlignHCenter);
+    return widget;
+}
+
 class ToolTipsPage : public GalleryPage
 {
 public:
     explicit ToolTipsPage(QWidget *inParent) : GalleryPage(inParent)
     {
-        addDirections();
-        addEdges();
-        QVBoxLayout *body =
-            addSection(QStringLiteral("What a tip shows"),
-                       QStringLiteral("The tips of the buttons above, standing in the page."));
+        addTop();
+        QVBoxLayout *body = addSection(QStringLiteral("What a tip shows"),
+                                       QStringLiteral("The same tips, standing in the page."));
         mTips = new QHBoxLayout;
         mTips->setSpacing(24);
         body->addLayout(mTips);
         addStandingTips();
+        addBottom();
     }
 
     // Labels take their font when they are made.
@@ -95,42 +106,56 @@ public:
     }
 
 private:
-    void addDirections()
+    void addTop()
     {
-        SampleGrid grid(
-            addSection(QStringLiteral("Directions"),
-                       QStringLiteral("Rest on a button: its tip opens on the side it names, and stays while "
-                                      "the pointer is on the button or on the tip, so that the link can be "
-                                      "reached. A tip that doesn't fit into the window there stands in the "
-                                      "top left corner of the screen; Auto looks for a side that fits.")),
-            6);
-        const QMetaEnum directions = QMetaEnum::fromType<Tool::ToolTipDirection>();
-        for (const Lesson &lesson : kLessons) {
-            for (int index = 0; index < directions.keyCount(); ++index)
-                grid.add(
-                    QString::fromLatin1(directions.key(index)).remove(QStringLiteral("ToolTipDirection")),
-                    makeTool(lesson, Tool::ToolTipDirection(directions.value(index))));
-            auto *plain = makeTool(lesson, Tool::ToolTipDirectionAuto);
-            plain->setToolTipImage(QString());
-            grid.add(QStringLiteral("without an image"), plain);
-        }
+        QHBoxLayout *row = addRow(
+            QStringLiteral("Tips beside and below"),
+            QStringLiteral("Rest on a button: its tip opens on the side that it names, and stays while the "
+                           "pointer is on the button or on the tip, so that the link can be reached. Auto "
+                           "takes the nearest side with room in the window."));
+        add(row, kLessons[0], Tool::ToolTipDirectionRight);
+        add(row, kLessons[1], Tool::ToolTipDirectionRight);
+        add(row, kLessons[0], Tool::ToolTipDirectionAuto);
+        add(row, kLessons[1], Tool::ToolTipDirectionAuto);
+        add(row, kLessons[0], Tool::ToolTipDirectionBelow);
+        add(row, kLessons[1], Tool::ToolTipDirectionBelow);
+        auto *plain = makeTool(kLessons[0], Tool::ToolTipDirectionAuto);
+        plain->setToolTipImage(QString());
+        row->addWidget(makeCaptioned(plain, QStringLiteral("no image")));
+        row->addStretch();
+        add(row, kLessons[0], Tool::ToolTipDirectionAuto);
+        add(row, kLessons[1], Tool::ToolTipDirectionLeft);
     }
 
-    void addEdges()
+    void addBottom()
     {
-        QVBoxLayout *body =
-            addSection(QStringLiteral("At the edges"),
-                       QStringLiteral("Neighbours in tool bars along the page's sides: one tip "
-                                      "goes when the next one opens."));
+        QHBoxLayout *row =
+            addRow(QStringLiteral("Tips above"),
+                   QStringLiteral("A direction without room in the window takes the tip to the top left "
+                                  "corner of the screen, as Below does here at the bottom."));
+        add(row, kLessons[0], Tool::ToolTipDirectionRight);
+        add(row, kLessons[0], Tool::ToolTipDirectionAbove);
+        add(row, kLessons[1], Tool::ToolTipDirectionAbove);
+        add(row, kLessons[1], Tool::ToolTipDirectionAuto);
+        add(row, kLessons[0], Tool::ToolTipDirectionBelow);
+        row->addStretch();
+        add(row, kLessons[0], Tool::ToolTipDirectionAuto);
+        add(row, kLessons[1], Tool::ToolTipDirectionAbove);
+    }
+
+    QHBoxLayout *addRow(const QString &inTitle, const QString &inNote)
+    {
         auto *row = new QHBoxLayout;
-        row->setSpacing(2);
-        for (int index = 0; index < 2; ++index) {
-            if (index == 1)
-                row->addStretch();
-            for (const Lesson &lesson : kLessons)
-                row->addWidget(makeTool(lesson, Tool::ToolTipDirectionAuto));
-        }
-        body->addLayout(row);
+        row->setSpacing(8);
+        addSection(inTitle, inNote)->addLayout(row);
+        return row;
+    }
+
+    static void add(QHBoxLayout *ioRow, const Lesson &inLesson, Tool::ToolTipDirection inDirection)
+    {
+        const char *name = QMetaEnum::fromType<Tool::ToolTipDirection>().valueToKey(inDirection);
+        ioRow->addWidget(makeCaptioned(makeTool(inLesson, inDirection),
+                                       QString::fromLatin1(name).remove(QStringLiteral("ToolTipDirection"))));
     }
 
     void addStandingTips()
