@@ -16,6 +16,8 @@ GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
+GalleryPage *makeToolButtonsPage(QWidget *inParent);
+GalleryPage *makeToolTipsPage(QWidget *inParent);
 GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
@@ -31,6 +33,8 @@ constexpr GalleryPageEntry kPages[] = {
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
+    {"tool-buttons", "Tool buttons", &makeToolButtonsPage},
+    {"tool-tips", "Tool tips", &makeToolTipsPage},
     {"metrics", "Metrics", &makeMetricsPage},
 };
 } // namespace

@@ -1,6 +1,8 @@
 #include "Controls/VantraAccessible.h"
 
+#include "Controls/VantraAccessibleToolButton_p.h"
 #include "Controls/VantraLabel.h"
+#include "Controls/VantraToolButton.h"
 
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QAccessibleWidget>
@@ -104,6 +106,11 @@ QAccessibleInterface *makeInterface(const QString &inClassName, QObject *inObjec
     if (inClassName == QLatin1String("VantraLabel")) {
         if (auto *label = qobject_cast<VantraLabel *>(inObject)) {
             return new VantraAccessibleLabel(label);
+        }
+    }
+    if (inClassName == QLatin1String("VantraToolButton")) {
+        if (auto *button = qobject_cast<VantraToolButton *>(inObject)) {
+            return new VantraAccessibleToolButton(button);
         }
     }
     return nullptr;
