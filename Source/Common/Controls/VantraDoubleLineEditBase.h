@@ -79,7 +79,6 @@ public slots:
 
 signals:
     // The field has a committed number: by setValue or a step, or because the user has ended the editing.
-    // Committing with Return tells twice.
     void valueChanged(double newDoubleValue);
 
     // The user's typing has come to a valid number. An emptied field counts as the minimum.
