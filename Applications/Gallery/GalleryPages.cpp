@@ -9,6 +9,7 @@ GalleryPage *makePalettePage(QWidget *inParent);
 GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
+GalleryPage *makeFieldsPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
@@ -21,6 +22,7 @@ constexpr GalleryPageEntry kPages[] = {
     {"type", "Type", &makeTypePage},
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
+    {"fields", "Fields", &makeFieldsPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},

@@ -26,7 +26,7 @@ public:
     enum BorderStyle {
         BorderNone = 0,      // a ground only while hovered
         BorderHighlight = 1, // always a ground
-        BorderStandard = 2,  // a pill
+        BorderStandard = 2,  // a pill, covered by the others' ground while hovered; set text margins to suit
     };
     Q_ENUM(BorderStyle)
 
@@ -58,7 +58,8 @@ protected:
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    // Leaves State_Sunken out, so that the panel which Qt draws under the text doesn't cover the style's own.
+    // Leaves State_Sunken out: the panel that Qt itself draws under the text is then that of a bare field,
+    // which covers the field's own only while hovered.
     void initStyleOption(QStyleOptionFrame *option) const override;
 
 private slots:
