@@ -1,6 +1,7 @@
 #include "Controls/VantraLineEdit.h"
 #include "Interaction/UserActions.h"
 #include "Style/VantraStyle.h"
+#include "Support/DataRows.h"
 #include "Support/ThemeFixture.h"
 #include "Theme/VantraFont.h"
 #include "Theme/VantraStyleTheme.h"
@@ -30,6 +31,34 @@ struct Form : QWidget
     QPushButton button;
 };
 
+struct KeyRow
+{
+    const char *name;
+    const char *locale;
+    bool exclude;
+    const char *text;
+};
+
+constexpr KeyRow kKeyRows[] = {
+    {"English", "en_US", true, "1.5a"},
+    {"German", "de_DE", true, "1,5a"},
+    {"German, let through", "de_DE", false, "1.,5a"},
+    {"none of the keys", "fr_FR", true, "1.,5a"},
+};
+
+struct PanelRow
+{
+    const char *name;
+    VantraLineEdit::BorderStyle style;
+    VantraPalette::PaletteRole role;
+};
+
+constexpr PanelRow kPanelRows[] = {
+    {"none", VantraLineEdit::BorderNone, VantraPalette::LineEditBackgroundNone},
+    {"highlight", VantraLineEdit::BorderHighlight, VantraPalette::LineEditBackground},
+    {"standard", VantraLineEdit::BorderStandard, VantraPalette::TokenBoxBackground},
+};
+
 } // namespace
 
 class tst_VantraLineEdit : public QObject
@@ -44,39 +73,26 @@ private slots:
     }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("QPainter|QWidget"))); }
     void cleanup() { VTQtLocale::unsetApplicationLocale(); }
-    void groupSeparatorKeyDoesNothing_data();
+    void groupSeparatorKeyDoesNothing_data() { DataRows::add(kKeyRows); }
     void groupSeparatorKeyDoesNothing();
     void focusUnderlines();
     void focusSelectsAllWhenAsked();
     void textColorFollowsPointerAndState();
     void tabAndReturnAreNoShortcuts();
-    void panelLiesBeneathTheText_data();
+    void panelLiesBeneathTheText_data() { DataRows::add(kPanelRows); }
     void panelLiesBeneathTheText();
     void assistantsSeeATextField();
 };
 
-void tst_VantraLineEdit::groupSeparatorKeyDoesNothing_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<bool>("exclude");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("English") << "en_US" << true << "1.5a";
-    QTest::newRow("German") << "de_DE" << true << "1,5a";
-    QTest::newRow("German, let through") << "de_DE" << false << "1.,5a";
-    QTest::newRow("none of the keys") << "fr_FR" << true << "1.,5a";
-}
-
 void tst_VantraLineEdit::groupSeparatorKeyDoesNothing()
 {
-    QFETCH(const QString, locale);
-    QFETCH(const bool, exclude);
-    QFETCH(const QString, text);
-    VTQtLocale::setApplicationLocale(QLocale(locale));
+    const KeyRow row = DataRows::current(kKeyRows);
+    VTQtLocale::setApplicationLocale(QLocale(QLatin1String(row.locale)));
     VantraLineEdit edit;
-    edit.setIgnoreLocaleSeparator(exclude);
-    QCOMPARE(edit.property("excludeLocaleGroupSeparator").toBool(), exclude);
+    edit.setIgnoreLocaleSeparator(row.exclude);
+    QCOMPARE(edit.property("excludeLocaleGroupSeparator").toBool(), row.exclude);
     QTest::keyClicks(&edit, QStringLiteral("1.,5a"));
-    QCOMPARE(edit.text(), text);
+    QCOMPARE(edit.text(), QLatin1String(row.text));
     QGuiApplication::clipboard()->setText(QStringLiteral("1.,5"));
     QTest::keySequence(&edit, QKeySequence(QKeySequence::SelectAll));
     QTest::keySequence(&edit, QKeySequence(QKeySequence::Paste));
@@ -156,27 +172,17 @@ void tst_VantraLineEdit::tabAndReturnAreNoShortcuts()
     QCOMPARE(fired, QStringList(QStringLiteral("Enter")));
 }
 
-void tst_VantraLineEdit::panelLiesBeneathTheText_data()
-{
-    QTest::addColumn<VantraLineEdit::BorderStyle>("style");
-    QTest::addColumn<VantraPalette::PaletteRole>("role");
-    QTest::newRow("none") << VantraLineEdit::BorderNone << VantraPalette::LineEditBackgroundNone;
-    QTest::newRow("highlight") << VantraLineEdit::BorderHighlight << VantraPalette::LineEditBackground;
-    QTest::newRow("standard") << VantraLineEdit::BorderStandard << VantraPalette::TokenBoxBackground;
-}
-
 void tst_VantraLineEdit::panelLiesBeneathTheText()
 {
-    QFETCH(const VantraLineEdit::BorderStyle, style);
-    QFETCH(const VantraPalette::PaletteRole, role);
+    const PanelRow row = DataRows::current(kPanelRows);
     VantraLineEdit edit;
     edit.resize(120, 24);
-    edit.setProperty("borderStyle", QVariant::fromValue(style));
-    QCOMPARE(edit.borderStyle(), style);
+    edit.setProperty("borderStyle", QVariant::fromValue(row.style));
+    QCOMPARE(edit.borderStyle(), row.style);
     const QImage bare = ThemeFixture::paint(edit.size(), [&edit](QPainter &ioPainter) {
         edit.render(&ioPainter, QPoint(), QRegion(), QWidget::RenderFlags());
     });
-    const QColor ground = themeColor(VantraPalette::Normal, role);
+    const QColor ground = themeColor(VantraPalette::Normal, row.role);
     QCOMPARE(bare.pixelColor(100, 12).alpha(), ground.alpha());
     if (ground.alpha() > 0) {
         QCOMPARE(bare.pixelColor(100, 12), ground);

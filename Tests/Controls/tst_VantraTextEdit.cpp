@@ -1,6 +1,7 @@
 #include "Controls/VantraTextEdit.h"
 #include "Interaction/UserActions.h"
 #include "Style/VantraStyle.h"
+#include "Support/DataRows.h"
 #include "Support/ThemeFixture.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -33,6 +34,44 @@ struct Form : QWidget
     int keys = 0;
 };
 
+struct KeyRow
+{
+    const char *name;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    bool acceptEnter;
+    int finished;
+    const char *text;
+    int keysOfParent;
+};
+
+constexpr KeyRow kKeyRows[] = {
+    {"Return", Qt::Key_Return, Qt::NoModifier, true, 1, "Text", 0},
+    {"Enter", Qt::Key_Enter, Qt::NoModifier, false, 1, "Text", 0},
+    {"Ctrl+Return, off", Qt::Key_Return, Qt::ControlModifier, false, 1, "Text", 0},
+    {"Ctrl+Return", Qt::Key_Return, Qt::ControlModifier, true, 0, "Text\n", 1},
+    {"Ctrl+Enter", Qt::Key_Enter, Qt::ControlModifier, true, 0, "Text\n", 1},
+    {"another key", Qt::Key_Backspace, Qt::NoModifier, true, 0, "ext", 0},
+};
+
+struct LeaveRow
+{
+    const char *name;
+    Qt::FocusReason reason;
+    bool tabLeaves;
+    bool readOnly;
+    int finished;
+};
+
+constexpr LeaveRow kLeaveRows[] = {
+    {"Tab", Qt::TabFocusReason, true, false, 1},
+    {"mouse", Qt::MouseFocusReason, true, false, 1},
+    {"another window", Qt::ActiveWindowFocusReason, true, false, 0},
+    {"by program", Qt::OtherFocusReason, true, false, 0},
+    {"Tab types", Qt::MouseFocusReason, false, false, 0},
+    {"read only", Qt::TabFocusReason, true, true, 0},
+};
+
 } // namespace
 
 class tst_VantraTextEdit : public QObject
@@ -46,87 +85,47 @@ private slots:
         QApplication::setStyle(new VantraStyle);
     }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("QPainter|QWidget"))); }
-    void returnEndsTheEditing_data();
+    void returnEndsTheEditing_data() { DataRows::add(kKeyRows); }
     void returnEndsTheEditing();
-    void leavingEndsTheEditing_data();
+    void leavingEndsTheEditing_data() { DataRows::add(kLeaveRows); }
     void leavingEndsTheEditing();
     void focusSelectsAndUnderlines();
     void lookFollowsPointerAndStyle();
     void assistantsSeeATextField();
 };
 
-void tst_VantraTextEdit::returnEndsTheEditing_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<bool>("acceptEnter");
-    QTest::addColumn<int>("finished");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("keysOfParent");
-    const Qt::KeyboardModifiers none;
-    const Qt::KeyboardModifiers control = Qt::ControlModifier;
-    QTest::newRow("Return") << Qt::Key_Return << none << true << 1 << "Text" << 0;
-    QTest::newRow("Enter") << Qt::Key_Enter << none << false << 1 << "Text" << 0;
-    QTest::newRow("Ctrl+Return, off") << Qt::Key_Return << control << false << 1 << "Text" << 0;
-    QTest::newRow("Ctrl+Return") << Qt::Key_Return << control << true << 0 << "Text\n" << 1;
-    QTest::newRow("Ctrl+Enter") << Qt::Key_Enter << control << true << 0 << "Text\n" << 1;
-    QTest::newRow("another key") << Qt::Key_Backspace << none << true << 0 << "ext" << 0;
-}
-
 void tst_VantraTextEdit::returnEndsTheEditing()
 {
-    QFETCH(const Qt::Key, key);
-    QFETCH(const Qt::KeyboardModifiers, modifiers);
-    QFETCH(const bool, acceptEnter);
-    QFETCH(const int, finished);
-    QFETCH(const QString, text);
-    QFETCH(const int, keysOfParent);
+    const KeyRow row = DataRows::current(kKeyRows);
     Form form;
-    form.edit.setAcceptEnterKey(acceptEnter);
+    form.edit.setAcceptEnterKey(row.acceptEnter);
     QVERIFY(UserActions::showActive(form));
     form.edit.setFocus();
     QTest::keyClick(form.windowHandle(), Qt::Key_Home);
     QTest::keyClick(form.windowHandle(), Qt::Key_Right);
     QSignalSpy spy(&form.edit, &VantraTextEdit::editingFinished);
-    QTest::keyClick(form.windowHandle(), key, modifiers);
-    QCOMPARE(spy.count(), finished);
-    QCOMPARE(form.edit.toPlainText(), text);
-    QCOMPARE(form.keys, keysOfParent);
+    QTest::keyClick(form.windowHandle(), row.key, row.modifiers);
+    QCOMPARE(spy.count(), row.finished);
+    QCOMPARE(form.edit.toPlainText(), QLatin1String(row.text));
+    QCOMPARE(form.keys, row.keysOfParent);
     form.edit.setReadOnly(true);
     spy.clear();
-    QTest::keyClick(form.windowHandle(), key, modifiers);
+    QTest::keyClick(form.windowHandle(), row.key, row.modifiers);
     QCOMPARE(spy.count(), 0);
-    QCOMPARE(form.edit.toPlainText(), text);
-}
-
-void tst_VantraTextEdit::leavingEndsTheEditing_data()
-{
-    QTest::addColumn<Qt::FocusReason>("reason");
-    QTest::addColumn<bool>("tabLeaves");
-    QTest::addColumn<bool>("readOnly");
-    QTest::addColumn<int>("finished");
-    QTest::newRow("Tab") << Qt::TabFocusReason << true << false << 1;
-    QTest::newRow("mouse") << Qt::MouseFocusReason << true << false << 1;
-    QTest::newRow("another window") << Qt::ActiveWindowFocusReason << true << false << 0;
-    QTest::newRow("by program") << Qt::OtherFocusReason << true << false << 0;
-    QTest::newRow("Tab types") << Qt::MouseFocusReason << false << false << 0;
-    QTest::newRow("read only") << Qt::TabFocusReason << true << true << 0;
+    QCOMPARE(form.edit.toPlainText(), QLatin1String(row.text));
 }
 
 void tst_VantraTextEdit::leavingEndsTheEditing()
 {
-    QFETCH(const Qt::FocusReason, reason);
-    QFETCH(const bool, tabLeaves);
-    QFETCH(const bool, readOnly);
-    QFETCH(const int, finished);
+    const LeaveRow row = DataRows::current(kLeaveRows);
     Form form;
-    form.edit.setTabChangesFocus(tabLeaves);
-    form.edit.setReadOnly(readOnly);
+    form.edit.setTabChangesFocus(row.tabLeaves);
+    form.edit.setReadOnly(row.readOnly);
     QVERIFY(UserActions::showActive(form));
     form.edit.setFocus();
     QSignalSpy spy(&form.edit, &VantraTextEdit::editingFinished);
-    form.button.setFocus(reason);
-    QCOMPARE(spy.count(), finished);
+    form.button.setFocus(row.reason);
+    QCOMPARE(spy.count(), row.finished);
 }
 
 void tst_VantraTextEdit::focusSelectsAndUnderlines()
