@@ -12,6 +12,7 @@ GalleryPage *makePicturesPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
 GalleryPage *makeButtonsPage(QWidget *inParent);
 GalleryPage *makeLabelsPage(QWidget *inParent);
+GalleryPage *makeFieldsPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
@@ -29,6 +30,7 @@ constexpr GalleryPageEntry kPages[] = {
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
     {"buttons", "Buttons", &makeButtonsPage},
     {"labels", "Labels", &makeLabelsPage},
+    {"fields", "Fields", &makeFieldsPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
