@@ -9,8 +9,10 @@ GalleryPage *makePalettePage(QWidget *inParent);
 GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
+GalleryPage *makeBoxesPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
+GalleryPage *makePanesPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
 GalleryPage *makeMetricsPage(QWidget *inParent);
@@ -21,8 +23,10 @@ constexpr GalleryPageEntry kPages[] = {
     {"type", "Type", &makeTypePage},
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
+    {"check-and-combo-boxes", "Check and combo boxes", &makeBoxesPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
+    {"frames-and-panes", "Frames and panes", &makePanesPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
     {"metrics", "Metrics", &makeMetricsPage},

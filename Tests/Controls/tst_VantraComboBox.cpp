@@ -126,6 +126,7 @@ private slots:
     void placeholderReachesTheStyle_data();
     void placeholderReachesTheStyle();
     void drawsAtItsHintInTheCorner();
+    void popupIsAsWideAsItsItems();
     void paintingComesToRest();
     void itemsCanBeDisabled();
     void otherModelsAreFatal();
@@ -320,6 +321,24 @@ void tst_VantraComboBox::drawsAtItsHintInTheCorner()
     window.box->setFixedSize(200, 60);
     window.box->grab();
     QCOMPARE(mStyle->record.rect, QRect(QPoint(0, 0), window.box->sizeHint()));
+}
+
+// What is remembered of texts must not outlive the font.
+void tst_VantraComboBox::popupIsAsWideAsItsItems()
+{
+    Window window;
+    const QString text(80, QLatin1Char('W'));
+    window.box->addItem(text);
+    for (const int points : {11, 24, 11}) {
+        QFont font = window.box->font();
+        font.setPointSize(points);
+        window.box->setFont(font);
+        window.box->adjustMinimumViewWidth(window.box);
+        const int width = window.box->fontMetrics().boundingRect(text).width() +
+                          window.box->view()->verticalScrollBar()->sizeHint().width() +
+                          qMax(0, window.box->view()->iconSize().width());
+        QCOMPARE(window.box->view()->minimumWidth(), width);
+    }
 }
 
 void tst_VantraComboBox::paintingComesToRest()
