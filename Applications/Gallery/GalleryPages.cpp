@@ -13,8 +13,10 @@ GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
 GalleryPage *makeButtonsPage(QWidget *inParent);
 GalleryPage *makeLabelsPage(QWidget *inParent);
 GalleryPage *makeFieldsPage(QWidget *inParent);
+GalleryPage *makeBoxesPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
+GalleryPage *makePanesPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
 GalleryPage *makeToolButtonsPage(QWidget *inParent);
@@ -31,8 +33,10 @@ constexpr GalleryPageEntry kPages[] = {
     {"buttons", "Buttons", &makeButtonsPage},
     {"labels", "Labels", &makeLabelsPage},
     {"fields", "Fields", &makeFieldsPage},
+    {"check-and-combo-boxes", "Check and combo boxes", &makeBoxesPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
+    {"frames-and-panes", "Frames and panes", &makePanesPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
     {"tool-buttons", "Tool buttons", &makeToolButtonsPage},
