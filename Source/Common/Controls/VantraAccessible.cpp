@@ -1,4 +1,4 @@
-#include "Controls/VantraAccessible.h"
+#include "Controls/VantraAccessible_p.h"
 
 #include "Controls/VantraAccessibleToolButton_p.h"
 #include "Controls/VantraLabel.h"

@@ -1,6 +1,6 @@
 #include "Controls/VantraButton.h"
 
-#include "Controls/VantraAccessible.h"
+#include "Controls/VantraAccessible_p.h"
 #include "Controls/VantraLabel.h"
 #include "StyleOptions/VantraStyleOptionButton.h"
 #include "Theme/VantraFont.h"

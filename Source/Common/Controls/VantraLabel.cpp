@@ -1,6 +1,6 @@
 #include "Controls/VantraLabel.h"
 
-#include "Controls/VantraAccessible.h"
+#include "Controls/VantraAccessible_p.h"
 #include "Controls/VantraMouseHoldInfo.h"
 #include "Theme/VantraFont.h"
 #include "Utilities/VTWidgetsImageUtils.h"

@@ -1,6 +1,6 @@
 #include "Controls/VantraToolButton.h"
 
-#include "Controls/VantraAccessible.h"
+#include "Controls/VantraAccessible_p.h"
 #include "StyleOptions/VantraStyleOptionToolButton.h"
 #include "Theme/VantraFont.h"
 #include "ToolTips/VantraToolTipFilter.h"
