@@ -46,7 +46,6 @@ public:
 
     QPointer<VantraComboBox> box;
     int wheels = 0;
-    int keys = 0;
 
 protected:
     void wheelEvent(QWheelEvent *) override { ++wheels; }
@@ -399,6 +398,14 @@ void tst_VantraComboBox::tabReachesTheBox()
     QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
     QCOMPARE(spy.count(), 0);
     QVERIFY(next->hasFocus());
+
+    // A key that is held down is the shortcut's.
+    for (const bool repeats : {false, true}) {
+        QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Tab, Qt::NoModifier, QString(), repeats);
+        event.ignore();
+        window.box->event(&event);
+        QCOMPARE(event.isAccepted(), !repeats);
+    }
 }
 
 void tst_VantraComboBox::disabledLetsTheMouseThrough()
