@@ -38,6 +38,10 @@ VantraToolTipFilter::~VantraToolTipFilter()
 {
     disconnect(mTimer, &QTimer::timeout, this, &VantraToolTipFilter::onToolTipTimeout);
     delete mToolTip.data();
+    // The library may be unloaded before the application ends.
+    if (sLastToolTip.isNull()) {
+        qRemovePostRoutine(&deleteLastToolTip);
+    }
 }
 
 bool VantraToolTipFilter::eventFilter(QObject *object, QEvent *event)
