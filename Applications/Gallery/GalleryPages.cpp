@@ -8,6 +8,7 @@
 GalleryPage *makePalettePage(QWidget *inParent);
 GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
+GalleryPage *makePicturesPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
@@ -22,6 +23,7 @@ constexpr GalleryPageEntry kPages[] = {
     {"palette", "Palette", &makePalettePage},
     {"type", "Type", &makeTypePage},
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
+    {"pictures", "Pictures", &makePicturesPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
