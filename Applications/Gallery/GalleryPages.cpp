@@ -10,6 +10,8 @@ GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
 GalleryPage *makePicturesPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
+GalleryPage *makeButtonsPage(QWidget *inParent);
+GalleryPage *makeLabelsPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
@@ -25,6 +27,8 @@ constexpr GalleryPageEntry kPages[] = {
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
     {"pictures", "Pictures", &makePicturesPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
+    {"buttons", "Buttons", &makeButtonsPage},
+    {"labels", "Labels", &makeLabelsPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},

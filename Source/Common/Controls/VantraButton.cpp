@@ -10,8 +10,21 @@
 
 #include <utility>
 
+namespace {
+
+// What Qt gives a child that nobody has laid out yet.
+constexpr QSize kFirstSize(100, 30);
+
+} // namespace
+
 VantraButton::VantraButton(QWidget *inParent) : VantraButtonBase(inParent)
 {
+    if (inParent == nullptr) {
+        // The round caps that the style measures are half as wide as the button is high at present. Qt begins
+        // with a window's height, with which the first layout would ask for caps of 240 pixels each.
+        resize(kFirstSize);
+        setAttribute(Qt::WA_Resized, false);
+    }
 }
 
 VantraButton::~VantraButton()
