@@ -64,7 +64,7 @@ void VantraToolTipFilter::openToolTip(VantraToolButton *inButton, const QHelpEve
     mButtonRect = QRect(inButton->mapToGlobal(QPoint(0, 0)), inButton->size());
     dismissToolTip();
     mToolTip = new VantraToolTip;
-    // Post routines run once for each application; a second entry would do no more than the first.
+    // One entry is enough, and the end of an application takes it off the list.
     qRemovePostRoutine(&deleteLastToolTip);
     qAddPostRoutine(&deleteLastToolTip);
     sLastToolTip = mToolTip;
