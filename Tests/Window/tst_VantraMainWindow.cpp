@@ -290,7 +290,8 @@ void tst_VantraMainWindow::mistakesStopTheProcess_data()
     QTest::addColumn<QString>("message");
     const QString insert = QStringLiteral("VantraMainWindow::insertIntoKeySequenceToMenuMap: ");
     const QString take = QStringLiteral("VantraMainWindow::takeFromKeySequenceToMenuMap: ");
-    QTest::newRow("menuTwice") << insert + "There should only be one shortcut 'Ctrl+O' mapped to a menu 'File'";
+    QTest::newRow("menuTwice") << insert +
+                                      "There should only be one shortcut 'Ctrl+O' mapped to a menu 'File'";
     QTest::newRow("shortcutOfAnAction")
         << insert + "There should only be one shortcut 'Ctrl+O' mapped to a menu '<NULL>'";
     QTest::newRow("nullShortcut") << "inShortcut != nullptr";

@@ -7,6 +7,7 @@
 #include <QtCore/QEvent>
 #include <QtCore/QMetaMethod>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
@@ -183,6 +184,9 @@ void VantraMessageBox::wrapInformativeText()
     mInformativeArea->setFont(areaFont);
     delete layout()->replaceWidget(label, mInformativeArea, Qt::FindChildrenRecursively);
     areaLayout->addWidget(label);
+    // What comes in while the dialog shows isn't shown along with it.
+    mInformativeArea->setVisible(true);
+    label->setVisible(true);
 }
 
 bool VantraMessageBox::isDontShowMeThisAgainChecked() const
@@ -322,6 +326,17 @@ void VantraMessageBox::offerOnlyButtonToEscape()
     if (escapeButton() == nullptr && choices.count() == 1 && choices.count() != buttons().count()) {
         setEscapeButton(choices.first());
     }
+}
+
+// Once a button has been clicked, QMessageBox no longer takes its own closing for a click on the escape
+// button.
+void VantraMessageBox::closeEvent(QCloseEvent *event)
+{
+    if (!mButtonClosesDialogMap.value(clickedButton(), true)) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QMessageBox::keyPressEvent(&escape);
+    }
+    QMessageBox::closeEvent(event);
 }
 
 void VantraMessageBox::showEvent(QShowEvent *event)

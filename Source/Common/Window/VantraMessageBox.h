@@ -100,6 +100,7 @@ signals:
 protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     static const QFlags<Qt::WindowType> kDefaultWindowFlags;
