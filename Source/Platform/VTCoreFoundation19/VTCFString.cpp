@@ -1,6 +1,6 @@
 #include "VTCFString.h"
 
-#if !defined(Q_OS_MACOS)
+#if !defined(__APPLE__)
 
 #include <atomic>
 #include <memory>
