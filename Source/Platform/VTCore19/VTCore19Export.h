@@ -1,6 +1,9 @@
 #pragma once
 
-// Free of Qt, as the headers that C sources include lean on it.
+// C sources, which may include some of the headers, need nothing of Qt.
+#if defined(__cplusplus)
+#include <QtCore/qglobal.h>
+#endif
 
 #if defined(_WIN32) && defined(VTCORE19_BUILD)
 #define VTCORE19_EXPORT __declspec(dllexport)
