@@ -490,12 +490,15 @@ bool VantraProgressMgr::eventFilter(QObject *watched, QEvent *event)
         }
         return true;
     }
+    case QEvent::Close:
+        // Without this, the window would go without having been asked.
+        event->ignore();
+        return true;
     // A release passes: who was pressed before the filter came would wait for it.
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::KeyRelease:
-    case QEvent::Close:
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::DragLeave:

@@ -33,9 +33,9 @@
 //   its own end.
 // - Main window closed: the user can't while a run blocks it. Closed by the program, it goes out of sight
 //   alone; dialog and operation stay.
-// - Application quitting: runProgress returns 0. The operation goes on, and the caller still ends it; who
-// waits
-//   for the worker waits for its whole work.
+// - Application quitting: quit() asks the dialog to close, as its title bar does, so that it cancels if the
+//   button is enabled, and is refused. exit() ends the run, which returns 0; the operation goes on, worker
+//   and caller still end it, and who waits for the worker waits for its whole work.
 // - Window that owns the manager deleted: the manager goes with it, and nobody may use it any more. The
 //   dialog ends, runProgress returns 0, and the algorithm's next progress call is answered with 1007. An
 //   algorithm on another thread that goes on with its progress object has to hold a reference of its own.
