@@ -265,14 +265,14 @@ private:
                     missing << wordOf(group);
                 else
                     add(0, nearestTo(role),
-                        QStringLiteral("%1 has no %2 colour, as is meant: %3")
+                        QStringLiteral("%1 has no colour in group %2, as is meant: %3")
                             .arg(word, wordOf(group), QLatin1String(hole->reason)),
                         Finding::Kind::Meant);
             }
             if (!missing.isEmpty())
                 add(0, nearestTo(role),
-                    QStringLiteral("%1 has no %2 colour, which is painted red")
-                        .arg(word, missing.join(QLatin1String(", no "))));
+                    QStringLiteral("%1 has no colour in group %2 and would be painted red")
+                        .arg(word, missing.join(QLatin1String(" or "))));
         }
     }
 

@@ -77,9 +77,8 @@ QStringList argumentsOf(int inCount, char **inValues)
     const QCoreApplication application(inCount, inValues);
     return QCoreApplication::arguments().mid(1);
 }
-} // namespace
 
-int main(int argc, char **argv)
+int run(int argc, char **argv)
 {
     QStringList arguments = argumentsOf(argc, argv);
     for (const QString &argument : std::as_const(arguments)) {
@@ -111,4 +110,11 @@ int main(int argc, char **argv)
                                            "name of a picture"));
     return refuse(
         QStringLiteral("no command is called \"%1\"; there are check, list and preview").arg(command));
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const int exitCode = run(argc, argv);
+    return std::fflush(stdout) == 0 ? exitCode : refuse(QStringLiteral("the output can't be written"));
 }
