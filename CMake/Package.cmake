@@ -107,6 +107,14 @@ endif()
 install(FILES Resources/Themes/theme.schema.json
     DESTINATION ${CMAKE_INSTALL_DATADIR}/VTWidgetsLite COMPONENT Development)
 
+# Everything that an installation needs built, and nothing else.
+add_custom_target(installed)
+foreach(target ${libraries} VantraStylePlugin VantraDesignerPlugin vtwidgets-gallery vtwidgets-theme PhotoDesk)
+    if(TARGET ${target})
+        add_dependencies(installed ${target})
+    endif()
+endforeach()
+
 # The fonts are inside the library, so their licences travel with it.
 install(FILES README.md DESTINATION ${documentDir} COMPONENT Development)
 set(fontNotices ${VTWIDGETS_FONT_NOTICES})
