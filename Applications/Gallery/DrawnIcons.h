@@ -11,6 +11,9 @@ QIcon picture(const QColor &inColor = Qt::gray);
 QIcon folder(const QColor &inColor = Qt::gray);
 QIcon adjust(const QColor &inColor = Qt::gray);
 
+// The gallery's own, in colours: the landscape on a plate.
+QIcon application();
+
 // A filled circle of a diameter in logical pixels.
 QIcon dot(int inSize, const QColor &inColor);
 } // namespace DrawnIcons

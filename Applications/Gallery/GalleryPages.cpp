@@ -13,6 +13,9 @@ GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
+GalleryPage *makeSortingPage(QWidget *inParent);
+GalleryPage *makeMainWindowPage(QWidget *inParent);
+GalleryPage *makeMessageBoxesPage(QWidget *inParent);
 GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
@@ -25,6 +28,9 @@ constexpr GalleryPageEntry kPages[] = {
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
+    {"sorting", "Sorting", &makeSortingPage},
+    {"main-window", "Main window", &makeMainWindowPage},
+    {"message-boxes", "Message boxes", &makeMessageBoxesPage},
     {"metrics", "Metrics", &makeMetricsPage},
 };
 } // namespace
