@@ -1,5 +1,5 @@
-// Benchmarks of the theme and the style. Every figure is paired with a reference in the same run: Fusion
-// painting the same element, or the bare call.
+// Benchmarks of the theme, the style and the progress calls. Every figure of the style is paired with a
+// reference in the same run: Fusion painting the same element, or the bare call.
 //
 //     ./run bench                                  all of them
 //     ./run bench --benchmark_filter=PushButton    some
@@ -62,6 +62,7 @@ int main(int argc, char **argv)
     Bench::registerStyle();
     Bench::registerStart();
     Bench::registerWhole();
+    Bench::registerProgress();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;
