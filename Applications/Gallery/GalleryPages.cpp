@@ -13,6 +13,7 @@ GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
+GalleryPage *makeProgressPage(QWidget *inParent);
 GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
@@ -25,6 +26,7 @@ constexpr GalleryPageEntry kPages[] = {
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
+    {"progress", "Progress", &makeProgressPage},
     {"metrics", "Metrics", &makeMetricsPage},
 };
 } // namespace

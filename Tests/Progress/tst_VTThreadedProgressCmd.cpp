@@ -23,7 +23,7 @@
 #if defined(__SANITIZE_THREAD__)
 static constexpr int kEase = 2;
 #elif defined(__SANITIZE_ADDRESS__)
-static constexpr int kEase = 2;
+static constexpr int kEase = 5;
 #else
 static constexpr int kEase = 1;
 #endif
