@@ -119,8 +119,7 @@ private:
         for (const JsonText::Duplicate &duplicate : text.duplicates())
             add(inFile, duplicate.second,
                 QStringLiteral("the key \"%1\" stands here again; its value in line %2 is lost")
-                    .arg(duplicate.key)
-                    .arg(duplicate.first.line));
+                    .arg(duplicate.key, QString::number(duplicate.first.line)));
         const QList<ShapeFault> faults = shapeFaults(text);
         for (const ShapeFault &fault : faults)
             add(inFile, fault.atKey ? text.positionOfKey(fault.pointer) : text.positionOf(fault.pointer),

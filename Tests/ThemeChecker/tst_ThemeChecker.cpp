@@ -192,12 +192,12 @@ private slots:
         base("dim text", R"("ViewItemText", "group": "Normal", "color": "TextColor")",
              R"("ViewItemText", "group": "Normal", "color": ¦[ 110, 110, 110 ])",
              {"ViewItemText on CategoryViewItemBackground in group Normal has a contrast of 3.04, below 4.5; "
-              "the ground stands in line 72"});
+              "the ground stands in line 76"});
         accent("dim text of the accent", R"("color_aliases")",
                R"("color_palette": [ { "role": "ButtonText", "group": "Normal", "color": ¦[ 60, 60, 60 ] } ],
                 "color_aliases")",
                {"ButtonText on ButtonBackground in group Normal has a contrast of 1.54, below 4.5; the "
-                "ground stands in line 24 of theme.json"});
+                "ground stands in line 25 of theme.json"});
 
         // Syntax, which is all that is told of a document that has it wrong.
         accent("comma missing", "[ 4, 122, 255 ],\n        \"", "[ 4, 122, 255 ]\n        ¦\"",
