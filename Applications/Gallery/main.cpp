@@ -1,3 +1,4 @@
+#include "GalleryLanguage.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryScreenshot.h"
@@ -66,6 +67,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("vtwidgets-gallery"));
     QApplication::setApplicationVersion(QStringLiteral(VTWIDGETS_VERSION));
 
+    GalleryLanguage::install(options.language);
     GalleryLook look;
     look.setThemeFiles(options.themeFile, options.accentFile);
     const QString trouble = look.start(options.accent, options.textSize, options.style);

@@ -27,7 +27,6 @@ QWidget *make(QWidget *inParent)
 
 constexpr char kButtonText[] = R"(<property name="text"><string>Button</string></property>)";
 constexpr char kCheckBoxText[] = R"(<property name="text"><string>Check box</string></property>)";
-constexpr char kLabelText[] = R"(<property name="text"><string>Label</string></property>)";
 constexpr char kGroupText[] = R"(<property name="text"><string>Group</string></property>)";
 constexpr char kToolButtonImage[] =
     R"(<property name="buttonImage"><enum>VantraToolButton::SettingsImage</enum></property>)";
@@ -48,13 +47,20 @@ constexpr char kToolTipNotes[] =
     R"(<stringpropertyspecification name="toolTipDetailed" type="richtext"/>)"
     R"(<stringpropertyspecification name="toolTipUrl" type="url" notr="true"/>)";
 
-// Limits that would cross move together.
-void keepLimitsApart(QDoubleValidator *ioLimits)
+// A limit that would pass the other takes it along.
+void keepLimitsInOrder(QDoubleValidator *ioLimits)
 {
-    QObject::connect(ioLimits, &QDoubleValidator::bottomChanged, ioLimits,
-                     [ioLimits](double inBottom) { ioLimits->setTop(qMax(inBottom, ioLimits->top())); });
-    QObject::connect(ioLimits, &QDoubleValidator::topChanged, ioLimits,
-                     [ioLimits](double inTop) { ioLimits->setBottom(qMin(inTop, ioLimits->bottom())); });
+    const auto follow = [ioLimits, bottom = ioLimits->bottom()]() mutable {
+        const bool hasNewBottom = ioLimits->bottom() != bottom;
+        bottom = ioLimits->bottom();
+        if (ioLimits->top() < bottom && hasNewBottom) {
+            ioLimits->setTop(bottom);
+        } else if (ioLimits->top() < bottom) {
+            ioLimits->setBottom(ioLimits->top());
+        }
+    };
+    // Not the signals of the single limits: those come while the other one has still to be written.
+    QObject::connect(ioLimits, &QValidator::changed, ioLimits, follow);
 }
 
 } // namespace
@@ -76,8 +82,9 @@ const QList<VantraDesignerControl::Entry> &VantraDesignerControl::entries()
          QSize(80, 24), kFieldBorder, "", false, &make<VantraDoubleLineEdit>},
         {"VantraTextEdit", "QTextEdit", "Box for plain text, in which Return ends the editing",
          "ToolButtons/AlignLeft", QSize(160, 72), kTextBorder, "", false, &make<VantraTextEdit>},
+        // Without a text: that would stay when a picture is chosen, and replace it in the finished form.
         {"VantraLabel", "QLabel", "Label, badge, header or picture that tells of clicks",
-         "ToolButtons/Capitalize", QSize(), kLabelText, "", false, &make<VantraLabel>},
+         "ToolButtons/Capitalize", QSize(60, 20), "", "", false, &make<VantraLabel>},
         {"VantraGroupLabel", "QLabel", "Label for the name of a group of controls", "ToolButtons/BoldFont",
          QSize(), kGroupText, "", false, &make<VantraGroupLabel>},
         {"VantraFrame", "QFrame", "Panel with round corners", "Print/PrintSinglePage", QSize(160, 120),
@@ -157,13 +164,13 @@ QWidget *VantraDesignerControl::createWidget(QWidget *inParent)
     QWidget *widget = mEntry.make(inParent);
     if (mIsInDesigner) {
         if (auto *limits = widget->findChild<QDoubleValidator *>()) {
-            keepLimitsApart(limits);
+            keepLimitsInOrder(limits);
         }
     }
     return widget;
 }
 
-void VantraDesignerControl::initialize(QDesignerFormEditorInterface *inCore)
+void VantraDesignerControl::initialize(QDesignerFormEditorInterface *)
 {
-    mIsInDesigner = inCore != nullptr;
+    mIsInDesigner = true;
 }

@@ -43,7 +43,7 @@ public:
 
     // Only Designer calls this, QUiLoader doesn't. From then on the limits of a number field push each other,
     // as those of Qt's spin boxes do: between two edits they would otherwise cross, which stops the process.
-    void initialize(QDesignerFormEditorInterface *inCore) override;
+    void initialize(QDesignerFormEditorInterface *) override;
     bool isInitialized() const override { return mIsInDesigner; }
 
 private:
