@@ -1,6 +1,6 @@
 # What "cmake --install" puts where, and the .deb files that CPack makes of it. Three components: Library (what a
-# program needs to run, with the style plugin), Development (headers, CMake package, pkg-config file,
-# theme checker), Gallery.
+# program needs to run, with the style plugin), Development (headers, CMake package, pkg-config file, theme
+# checker, plugin for Qt Designer), Gallery.
 
 include(CMakePackageConfigHelpers)
 
@@ -94,6 +94,11 @@ install(FILES ${PROJECT_BINARY_DIR}/VTWidgetsLite.pc
 vtwidgets_relative_rpath(VantraStylePlugin ${VTWIDGETS_QT_PLUGIN_DIR}/styles)
 install(TARGETS VantraStylePlugin
     LIBRARY DESTINATION ${VTWIDGETS_QT_PLUGIN_DIR}/styles COMPONENT Library)
+if(TARGET VantraDesignerPlugin)
+    vtwidgets_relative_rpath(VantraDesignerPlugin ${VTWIDGETS_QT_PLUGIN_DIR}/designer)
+    install(TARGETS VantraDesignerPlugin
+        LIBRARY DESTINATION ${VTWIDGETS_QT_PLUGIN_DIR}/designer COMPONENT Development)
+endif()
 if(TARGET vtwidgets-gallery)
     vtwidgets_relative_rpath(vtwidgets-gallery ${CMAKE_INSTALL_BINDIR})
     install(TARGETS vtwidgets-gallery RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Gallery)
