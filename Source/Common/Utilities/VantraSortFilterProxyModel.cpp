@@ -1,6 +1,5 @@
 #include "Utilities/VantraSortFilterProxyModel.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QLocale>
 #include <QtCore/QStringListModel>
 #include <QtWidgets/QAbstractItemView>
@@ -8,6 +7,11 @@
 #include <QtWidgets/QListView>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTreeView>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
 
 // The sort keys of the rows that one run of sort() has compared so far. A collator needs several times as
 // long to compare two texts as to compare their keys, and a sort compares each text some twenty times.
@@ -25,18 +29,39 @@ public:
     bool isUsable() const { return mUsable; }
     void drop() { mUsable = false; }
 
-    QCollatorSortKey key(const QModelIndex &inIndex, const QAbstractItemModel &inModel)
+    // The indexes are of one parent and column, as in each sort.
+    bool lessThan(const QModelIndex &inLeft, const QModelIndex &inRight, const QAbstractItemModel &inModel)
     {
-        const auto known = mKeys.constFind(inIndex);
-        if (known != mKeys.constEnd()) {
-            return *known;
-        }
-        return *mKeys.insert(inIndex, mCollator.sortKey(inModel.data(inIndex, Qt::DisplayRole).toString()));
+        const std::size_t left = enter(inLeft, inModel);
+        const std::size_t right = enter(inRight, inModel);
+        return mEntries[left].key->compare(*mEntries[right].key) < 0;
     }
 
 private:
+    // Each row has one place, which the next parent's children take over.
+    struct Entry
+    {
+        QModelIndex index;
+        std::optional<QCollatorSortKey> key;
+    };
+
+    std::size_t enter(const QModelIndex &inIndex, const QAbstractItemModel &inModel)
+    {
+        const auto place = static_cast<std::size_t>(inIndex.row());
+        if (place >= mEntries.size()) {
+            const auto rowCount = static_cast<std::size_t>(inModel.rowCount(inIndex.parent()));
+            mEntries.resize(std::max(rowCount, place + 1));
+        }
+        if (mEntries[place].index != inIndex) {
+            QCollatorSortKey key = mCollator.sortKey(inModel.data(inIndex, Qt::DisplayRole).toString());
+            mEntries[place].index = inIndex;
+            mEntries[place].key = std::move(key);
+        }
+        return place;
+    }
+
     const QCollator &mCollator;
-    QHash<QModelIndex, QCollatorSortKey> mKeys;
+    std::vector<Entry> mEntries;
     bool mUsable = true;
 };
 
@@ -169,7 +194,7 @@ bool VantraSortFilterProxyModel::lessThan(const QModelIndex &inLeft, const QMode
 {
     const QAbstractItemModel &model = *sourceModel();
     if (mKeys != nullptr && mKeys->isUsable()) {
-        return mKeys->key(inLeft, model).compare(mKeys->key(inRight, model)) < 0;
+        return mKeys->lessThan(inLeft, inRight, model);
     }
     const QString left = model.data(inLeft, Qt::DisplayRole).toString();
     const QString right = model.data(inRight, Qt::DisplayRole).toString();
