@@ -24,6 +24,9 @@ constexpr int kBusyTime = 700;
 // Of a page without a window around it, in pixels.
 constexpr int kPageWidth = 980;
 
+// Around a section, in pixels.
+constexpr int kSectionMargin = 16;
+
 // How long one picture may take on a slow machine, in milliseconds.
 constexpr int kPictureTimeout = 120000;
 
@@ -52,6 +55,33 @@ void waitForBusyBars(QWidget *ioWindow)
     QEventLoop loop;
     QTimer::singleShot(kBusyTime, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+// A page without a window, laid out for a picture.
+std::unique_ptr<GalleryPage> makePage(int inPage)
+{
+    std::unique_ptr<GalleryPage> page(GalleryPages::at(inPage).make(nullptr));
+    page->setAttribute(Qt::WA_DontShowOnScreen);
+    page->resize(page->sizeHint().expandedTo(QSize(kPageWidth, 0)));
+    page->show();
+    QApplication::processEvents();
+    if (page->hasHeightForWidth())
+        page->resize(page->width(), page->heightForWidth(page->width()));
+    waitForBusyBars(page.get());
+    return page;
+}
+
+// The columns of pixels at the left that hold more than the ground at the top right.
+int usedWidth(const QImage &inImage)
+{
+    const QRgb ground = inImage.pixel(inImage.width() - 1, 0);
+    for (int x = inImage.width() - 1; x > 0; --x) {
+        for (int y = 0; y < inImage.height(); ++y) {
+            if (inImage.pixel(x, y) != ground)
+                return x + 1;
+        }
+    }
+    return inImage.width();
 }
 
 // The command line that takes one of all pictures.
@@ -107,15 +137,24 @@ QString GalleryScreenshot::write(GalleryLook *inLook, const GalleryOptions &inOp
 
 QString GalleryScreenshot::writePage(int inPage, const QString &inFile)
 {
-    const std::unique_ptr<GalleryPage> page(GalleryPages::at(inPage).make(nullptr));
-    page->setAttribute(Qt::WA_DontShowOnScreen);
-    page->resize(page->sizeHint().expandedTo(QSize(kPageWidth, 0)));
-    page->show();
-    QApplication::processEvents();
-    if (page->hasHeightForWidth())
-        page->resize(page->width(), page->heightForWidth(page->width()));
-    waitForBusyBars(page.get());
+    const std::unique_ptr<GalleryPage> page = makePage(inPage);
     return save(widgetPicture(page.get(), page->size(), page->devicePixelRatioF()), inFile);
+}
+
+QString GalleryScreenshot::writeSection(const GalleryOptions &inOptions)
+{
+    const std::unique_ptr<GalleryPage> page = makePage(inOptions.page);
+    page->setEnabled(inOptions.enabled);
+    const QRect section = page->sectionRect(inOptions.section);
+    if (section.isNull())
+        return QStringLiteral("no section of the page is called \"%1\"; the sections are %2")
+            .arg(inOptions.section, page->sectionTitles().join(QStringLiteral(", ")));
+    const double ratio = inOptions.scale;
+    const QImage whole = widgetPicture(page.get(), page->size(), ratio);
+    const QRect area = section.adjusted(-kSectionMargin, -kSectionMargin, kSectionMargin, kSectionMargin);
+    QImage image = whole.copy(QRect((QPointF(area.topLeft()) * ratio).toPoint(), area.size() * ratio));
+    const int width = usedWidth(image) + qRound(kSectionMargin * ratio);
+    return save(image.copy(0, 0, qMin(width, image.width()), image.height()), inOptions.target);
 }
 
 QString GalleryScreenshot::writeAll(const GalleryOptions &inOptions)

@@ -72,7 +72,8 @@ int main(int argc, char **argv)
     if (!trouble.isEmpty())
         return refuse(trouble);
     if (!wantsWindow) {
-        const QString refusal = GalleryScreenshot::write(&look, options);
+        const QString refusal = options.section.isEmpty() ? GalleryScreenshot::write(&look, options)
+                                                          : GalleryScreenshot::writeSection(options);
         return refusal.isEmpty() ? 0 : refuse(refusal);
     }
 
