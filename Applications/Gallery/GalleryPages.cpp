@@ -22,6 +22,9 @@ GalleryPage *makeToolButtonsPage(QWidget *inParent);
 GalleryPage *makeToolTipsPage(QWidget *inParent);
 GalleryPage *makeFieldsPage(QWidget *inParent);
 GalleryPage *makeBoxesPage(QWidget *inParent);
+GalleryPage *makeSortingPage(QWidget *inParent);
+GalleryPage *makeMainWindowPage(QWidget *inParent);
+GalleryPage *makeMessageBoxesPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
@@ -42,6 +45,9 @@ constexpr GalleryPageEntry kPages[] = {
     {"tool-tips", "Tool tips", &makeToolTipsPage},
     {"fields", "Fields", &makeFieldsPage},
     {"check-and-combo-boxes", "Check and combo boxes", &makeBoxesPage},
+    {"sorting", "Sorting", &makeSortingPage},
+    {"main-window", "Main window", &makeMainWindowPage},
+    {"message-boxes", "Message boxes", &makeMessageBoxesPage},
 };
 } // namespace
 
