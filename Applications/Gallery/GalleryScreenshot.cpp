@@ -57,18 +57,25 @@ void waitForBusyBars(QWidget *ioWindow)
     loop.exec();
 }
 
-// A page without a window, laid out for a picture.
-std::unique_ptr<GalleryPage> makePage(int inPage)
+// The gallery's window as large as its page needs it, hidden.
+void prepare(GalleryWindow *ioWindow, const GalleryOptions &inOptions)
 {
-    std::unique_ptr<GalleryPage> page(GalleryPages::at(inPage).make(nullptr));
-    page->setAttribute(Qt::WA_DontShowOnScreen);
-    page->resize(page->sizeHint().expandedTo(QSize(kPageWidth, 0)));
-    page->show();
+    ioWindow->setAttribute(Qt::WA_DontShowOnScreen);
+    ioWindow->setPagesEnabled(inOptions.enabled);
+    ioWindow->showPage(inOptions.page);
+    ioWindow->show();
+    ioWindow->growToPage();
     QApplication::processEvents();
-    if (page->hasHeightForWidth())
-        page->resize(page->width(), page->heightForWidth(page->width()));
-    waitForBusyBars(page.get());
-    return page;
+    ioWindow->growToPage();
+    waitForBusyBars(ioWindow);
+}
+
+// The only one that shows.
+const GalleryPage *pageOf(const GalleryWindow &inWindow)
+{
+    const auto pages = inWindow.findChildren<GalleryPage *>();
+    return *std::find_if(pages.begin(), pages.end(),
+                         [](const GalleryPage *inPage) { return inPage->isVisible(); });
 }
 
 // The columns of pixels at the left that hold more than the ground at the top right.
@@ -123,38 +130,35 @@ QString GalleryScreenshot::check(const QString &inFile)
 QString GalleryScreenshot::write(GalleryLook *inLook, const GalleryOptions &inOptions)
 {
     GalleryWindow window(inLook);
-    window.setAttribute(Qt::WA_DontShowOnScreen);
-    window.setPagesEnabled(inOptions.enabled);
-    window.showPage(inOptions.page);
-    window.show();
-    window.growToPage();
-    QApplication::processEvents();
-    window.growToPage();
-    waitForBusyBars(&window);
+    prepare(&window, inOptions);
+    const QImage whole = widgetPicture(&window, window.size(), inOptions.scale);
+    if (inOptions.section.isEmpty())
+        return save(whole, inOptions.target);
 
-    return save(widgetPicture(&window, window.size(), inOptions.scale), inOptions.target);
-}
-
-QString GalleryScreenshot::writePage(int inPage, const QString &inFile)
-{
-    const std::unique_ptr<GalleryPage> page = makePage(inPage);
-    return save(widgetPicture(page.get(), page->size(), page->devicePixelRatioF()), inFile);
-}
-
-QString GalleryScreenshot::writeSection(const GalleryOptions &inOptions)
-{
-    const std::unique_ptr<GalleryPage> page = makePage(inOptions.page);
-    page->setEnabled(inOptions.enabled);
+    const GalleryPage *page = pageOf(window);
     const QRect section = page->sectionRect(inOptions.section);
     if (section.isNull())
         return QStringLiteral("no section of the page is called \"%1\"; the sections are %2")
             .arg(inOptions.section, page->sectionTitles().join(QStringLiteral(", ")));
+    const QRect area = section.translated(page->mapTo(&window, QPoint()))
+                           .adjusted(-kSectionMargin, -kSectionMargin, kSectionMargin, kSectionMargin);
     const double ratio = inOptions.scale;
-    const QImage whole = widgetPicture(page.get(), page->size(), ratio);
-    const QRect area = section.adjusted(-kSectionMargin, -kSectionMargin, kSectionMargin, kSectionMargin);
     QImage image = whole.copy(QRect((QPointF(area.topLeft()) * ratio).toPoint(), area.size() * ratio));
     const int width = usedWidth(image) + qRound(kSectionMargin * ratio);
     return save(image.copy(0, 0, qMin(width, image.width()), image.height()), inOptions.target);
+}
+
+QString GalleryScreenshot::writePage(int inPage, const QString &inFile)
+{
+    const std::unique_ptr<GalleryPage> page(GalleryPages::at(inPage).make(nullptr));
+    page->setAttribute(Qt::WA_DontShowOnScreen);
+    page->resize(page->sizeHint().expandedTo(QSize(kPageWidth, 0)));
+    page->show();
+    QApplication::processEvents();
+    if (page->hasHeightForWidth())
+        page->resize(page->width(), page->heightForWidth(page->width()));
+    waitForBusyBars(page.get());
+    return save(widgetPicture(page.get(), page->size(), page->devicePixelRatioF()), inFile);
 }
 
 QString GalleryScreenshot::writeAll(const GalleryOptions &inOptions)

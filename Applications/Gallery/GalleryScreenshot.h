@@ -12,14 +12,12 @@ namespace GalleryScreenshot {
 // Tells whether a file can be written, without leaving a trace. Needs no window system.
 QString check(const QString &inFile);
 
-// Writes the page of the options at the scale that the process runs at.
+// Writes the page of the options at the scale that the process runs at, or only the section of it that the
+// options name, with a little ground around it.
 QString write(GalleryLook *inLook, const GalleryOptions &inOptions);
 
 // Writes a page alone, without sidebar and strip, at the scale that the process runs at.
 QString writePage(int inPage, const QString &inFile);
-
-// Writes the section of a page that the options name, with a little ground around it.
-QString writeSection(const GalleryOptions &inOptions);
 
 // Writes NAME.png and NAME@2x.png of every page into the folder of the options, which is made when it isn't
 // there, and prints each file's path. Every picture is taken by a process of its own, since the scale of a

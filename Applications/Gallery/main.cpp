@@ -98,8 +98,7 @@ int main(int argc, char **argv)
     if (!trouble.isEmpty())
         return refuse(trouble);
     if (!wantsWindow) {
-        const QString refusal = options.section.isEmpty() ? GalleryScreenshot::write(&look, options)
-                                                          : GalleryScreenshot::writeSection(options);
+        const QString refusal = GalleryScreenshot::write(&look, options);
         return refusal.isEmpty() ? 0 : refuse(refusal);
     }
 
