@@ -32,7 +32,6 @@ take() {
 }
 
 take gallery-panes frames-and-panes
-take gallery-menus menus
 take palette palette "Colours of the theme"
 take panes frames-and-panes "Columns of panes"
 take frames frames-and-panes "Frames"
@@ -53,5 +52,8 @@ take combo-boxes check-and-combo-boxes "Backgrounds of combo boxes"
 take popups check-and-combo-boxes "Pictures of popups"
 take menus menus "Pictures of menus"
 take item-views item-views "The house delegate"
+take shortcut-map main-window "Shortcut map of this window"
+take message-boxes message-boxes "Pictures of message boxes"
+take sorting sorting "The order that a person expects"
 take accent-teal buttons "Styles and states" --accent-file "$here/Examples/teal.json"
 exit $exit_code
