@@ -25,6 +25,8 @@ GalleryPage *makeBoxesPage(QWidget *inParent);
 GalleryPage *makeSortingPage(QWidget *inParent);
 GalleryPage *makeMainWindowPage(QWidget *inParent);
 GalleryPage *makeMessageBoxesPage(QWidget *inParent);
+GalleryPage *makeProgressPage(QWidget *inParent);
+GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
@@ -48,6 +50,8 @@ constexpr GalleryPageEntry kPages[] = {
     {"sorting", "Sorting", &makeSortingPage},
     {"main-window", "Main window", &makeMainWindowPage},
     {"message-boxes", "Message boxes", &makeMessageBoxesPage},
+    {"progress", "Progress", &makeProgressPage},
+    {"metrics", "Metrics", &makeMetricsPage},
 };
 } // namespace
 
