@@ -54,6 +54,7 @@ take menus menus "Pictures of menus"
 take item-views item-views "The house delegate"
 take shortcut-map main-window "Shortcut map of this window"
 take message-boxes message-boxes "Pictures of message boxes"
+take progress progress "Dialog"
 take sorting sorting "The order that a person expects"
 take accent-teal buttons "Styles and states" --accent-file "$here/Examples/teal.json"
 exit $exit_code
