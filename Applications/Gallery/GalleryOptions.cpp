@@ -19,6 +19,7 @@ const QString kStyle = QStringLiteral("style");
 const QString kLanguage = QStringLiteral("language");
 const QString kContrast = QStringLiteral("contrast");
 const QString kDisabled = QStringLiteral("disabled");
+const QString kSection = QStringLiteral("section");
 const QString kScreenshot = QStringLiteral("screenshot");
 const QString kAllScreenshots = QStringLiteral("all-screenshots");
 
@@ -61,6 +62,8 @@ void addOptions(QCommandLineParser &ioParser)
         {kDisabled, QStringLiteral("Show the pages disabled.")},
         {kScreenshot, QStringLiteral("Write the whole page as a PNG and end. Needs no display."),
          QStringLiteral("file")},
+        {kSection, QStringLiteral("With --screenshot: only this section of the page, by its heading."),
+         QStringLiteral("title")},
         {kAllScreenshots,
          QStringLiteral("Write every page as NAME.png and, at scale 2, NAME@2x.png into a "
                         "folder and end. Needs no display."),
@@ -134,6 +137,9 @@ QString readTask(const QCommandLineParser &inParser, GalleryOptions &ioOptions)
             return QStringLiteral("--contrast prints and takes no screenshots");
         ioOptions.task = GalleryOptions::Task::Contrast;
     }
+    if (inParser.isSet(kSection) && !(one && inParser.isSet(kPage)))
+        return QStringLiteral("--section goes with --screenshot and --page");
+    ioOptions.section = inParser.value(kSection);
     if (one && all)
         return QStringLiteral("--screenshot and --all-screenshots can't be had together");
     if (all && (inParser.isSet(kPage) || inParser.isSet(kScale)))

@@ -15,6 +15,8 @@ struct GalleryOptions
     Task task = Task::ShowWindow;
     QString text;
     int page = 0;
+    // Title of the one section to take a screenshot of; empty for the whole window.
+    QString section;
     QString accent = QStringLiteral("blue");
     int textSize = 0;
     double scale = 1.0;

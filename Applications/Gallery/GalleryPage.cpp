@@ -85,5 +85,23 @@ QVBoxLayout *GalleryPage::addSection(const QString &inTitle, const QString &inNo
     body->setSpacing(8);
     section->addLayout(body);
     mLayout->insertLayout(mLayout->count() - 1, section);
+    mSections.append({inTitle, section});
     return body;
+}
+
+QStringList GalleryPage::sectionTitles() const
+{
+    QStringList titles;
+    for (const auto &section : mSections)
+        titles << section.first;
+    return titles;
+}
+
+QRect GalleryPage::sectionRect(const QString &inTitle) const
+{
+    for (const auto &section : mSections) {
+        if (section.first.compare(inTitle, Qt::CaseInsensitive) == 0)
+            return section.second->geometry();
+    }
+    return QRect();
 }

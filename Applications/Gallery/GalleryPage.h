@@ -3,8 +3,12 @@
 // The base of all pages, and the small widgets from which pages are laid out: headings, notes, captions and
 // captioned samples. Their texts follow the text size by themselves.
 
+#include <QtCore/QList>
+#include <QtCore/QStringList>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
+
+#include <utility>
 
 class QFont;
 class QGridLayout;
@@ -68,6 +72,11 @@ public:
     // hold copies of what the theme or the style said.
     virtual void refresh() {}
 
+    // The titles of the page's sections from the top, and where one of them lies within the page once it is
+    // laid out; a null rectangle for a title that none has.
+    QStringList sectionTitles() const;
+    QRect sectionRect(const QString &inTitle) const;
+
     // Space on the page's sides and between its sections, in pixels.
     static constexpr int kMargin = 24;
     static constexpr int kSectionSpacing = 28;
@@ -78,4 +87,5 @@ protected:
 
 private:
     QVBoxLayout *mLayout;
+    QList<std::pair<QString, QLayout *>> mSections;
 };

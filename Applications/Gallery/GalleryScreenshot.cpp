@@ -24,6 +24,9 @@ constexpr int kBusyTime = 700;
 // Of a page without a window around it, in pixels.
 constexpr int kPageWidth = 980;
 
+// Around a section, in pixels.
+constexpr int kSectionMargin = 16;
+
 // How long one picture may take on a slow machine, in milliseconds.
 constexpr int kPictureTimeout = 120000;
 
@@ -52,6 +55,40 @@ void waitForBusyBars(QWidget *ioWindow)
     QEventLoop loop;
     QTimer::singleShot(kBusyTime, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+// The gallery's window as large as its page needs it, hidden.
+void prepare(GalleryWindow *ioWindow, const GalleryOptions &inOptions)
+{
+    ioWindow->setAttribute(Qt::WA_DontShowOnScreen);
+    ioWindow->setPagesEnabled(inOptions.enabled);
+    ioWindow->showPage(inOptions.page);
+    ioWindow->show();
+    ioWindow->growToPage();
+    QApplication::processEvents();
+    ioWindow->growToPage();
+    waitForBusyBars(ioWindow);
+}
+
+// The only one that shows.
+const GalleryPage *pageOf(const GalleryWindow &inWindow)
+{
+    const auto pages = inWindow.findChildren<GalleryPage *>();
+    return *std::find_if(pages.begin(), pages.end(),
+                         [](const GalleryPage *inPage) { return inPage->isVisible(); });
+}
+
+// The columns of pixels at the left that hold more than the ground at the top right.
+int usedWidth(const QImage &inImage)
+{
+    const QRgb ground = inImage.pixel(inImage.width() - 1, 0);
+    for (int x = inImage.width() - 1; x > 0; --x) {
+        for (int y = 0; y < inImage.height(); ++y) {
+            if (inImage.pixel(x, y) != ground)
+                return x + 1;
+        }
+    }
+    return inImage.width();
 }
 
 // The command line that takes one of all pictures.
@@ -95,16 +132,22 @@ QString GalleryScreenshot::check(const QString &inFile)
 QString GalleryScreenshot::write(GalleryLook *inLook, const GalleryOptions &inOptions)
 {
     GalleryWindow window(inLook);
-    window.setAttribute(Qt::WA_DontShowOnScreen);
-    window.setPagesEnabled(inOptions.enabled);
-    window.showPage(inOptions.page);
-    window.show();
-    window.growToPage();
-    QApplication::processEvents();
-    window.growToPage();
-    waitForBusyBars(&window);
+    prepare(&window, inOptions);
+    const QImage whole = widgetPicture(&window, window.size(), inOptions.scale);
+    if (inOptions.section.isEmpty())
+        return save(whole, inOptions.target);
 
-    return save(widgetPicture(&window, window.size(), inOptions.scale), inOptions.target);
+    const GalleryPage *page = pageOf(window);
+    const QRect section = page->sectionRect(inOptions.section);
+    if (section.isNull())
+        return QStringLiteral("no section of the page is called \"%1\"; the sections are %2")
+            .arg(inOptions.section, page->sectionTitles().join(QStringLiteral(", ")));
+    const QRect area = section.translated(page->mapTo(&window, QPoint()))
+                           .adjusted(-kSectionMargin, -kSectionMargin, kSectionMargin, kSectionMargin);
+    const double ratio = inOptions.scale;
+    QImage image = whole.copy(QRect((QPointF(area.topLeft()) * ratio).toPoint(), area.size() * ratio));
+    const int width = usedWidth(image) + qRound(kSectionMargin * ratio);
+    return save(image.copy(0, 0, qMin(width, image.width()), image.height()), inOptions.target);
 }
 
 QString GalleryScreenshot::writePage(int inPage, const QString &inFile)

@@ -12,7 +12,8 @@ namespace GalleryScreenshot {
 // Tells whether a file can be written, without leaving a trace. Needs no window system.
 QString check(const QString &inFile);
 
-// Writes the page of the options at the scale that the process runs at.
+// Writes the page of the options at the scale that the process runs at, or only the section of it that the
+// options name, with a little ground around it.
 QString write(GalleryLook *inLook, const GalleryOptions &inOptions);
 
 // Writes a page alone, without sidebar and strip, at the scale that the process runs at.

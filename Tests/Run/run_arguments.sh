@@ -30,10 +30,11 @@ refuses '"nonsense"' nonsense
 refuses '"nonsense"' test nonsense
 refuses '"--chekc"' format --chekc
 refuses '"--tyr"' package --tyr
+refuses '"--opne"' docs --opne
 refuses '"soon"' fuzz soon
 
 "$run" help >"$work/help" || fail "run help failed"
-for command in gallery test bench check-windows package format fuzz; do
+for command in gallery test bench check-windows package docs pictures format fuzz; do
     grep -q "^\./run $command" "$work/help" || fail "run help does not name $command"
 done
 
