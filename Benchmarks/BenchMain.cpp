@@ -62,6 +62,7 @@ int main(int argc, char **argv)
     Bench::registerStyle();
     Bench::registerStart();
     Bench::registerWhole();
+    Bench::registerControls();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

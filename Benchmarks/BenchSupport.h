@@ -46,6 +46,7 @@ void registerTheme();
 void registerStyle();
 void registerStart();
 void registerWhole();
+void registerControls();
 
 // Shows a window of controls and a long list under the application's style, and prints the most memory that
 // the process has held, in KiB; nothing where the system can't tell.

@@ -1,7 +1,7 @@
 # Compile options that every target of this project shares.
 
 # The folders of Source/Common, each of which is on the include path of the library's users.
-set(VTWIDGETS_FOLDERS Controls Style StyleOptions Theme Utilities)
+set(VTWIDGETS_FOLDERS Controls Progress Style StyleOptions Theme ToolTips Utilities Window)
 
 # vtwidgets_target_options(TARGET): warnings, active assertions, sanitizers.
 function(vtwidgets_target_options target)

@@ -80,6 +80,28 @@ QIcon DrawnIcons::adjust(const QColor &inColor)
     });
 }
 
+QIcon DrawnIcons::brush(const QColor &inColor)
+{
+    return drawnIcon(inColor, [](QPainter &ioPainter, const QColor &inInk) {
+        ioPainter.drawLine(QPointF(20.5, 3.5), QPointF(11.5, 12.5));
+        ioPainter.setPen(Qt::NoPen);
+        ioPainter.setBrush(inInk);
+        QPainterPath tip(QPointF(11.5, 17.5));
+        tip.cubicTo(QPointF(10, 21.5), QPointF(5.5, 21.5), QPointF(2.5, 20.5));
+        tip.cubicTo(QPointF(5.5, 18.5), QPointF(4, 14.5), QPointF(7.5, 13));
+        tip.cubicTo(QPointF(10, 12), QPointF(12.5, 15), QPointF(11.5, 17.5));
+        ioPainter.drawPath(tip);
+    });
+}
+
+QIcon DrawnIcons::crop(const QColor &inColor)
+{
+    return drawnIcon(inColor, [](QPainter &ioPainter, const QColor &) {
+        ioPainter.drawPolyline(QPolygonF({{7, 2}, {7, 17}, {22, 17}}));
+        ioPainter.drawPolyline(QPolygonF({{2, 7}, {17, 7}, {17, 22}}));
+    });
+}
+
 QIcon DrawnIcons::dot(int inSize, const QColor &inColor)
 {
     QIcon icon;
@@ -98,4 +120,9 @@ QIcon DrawnIcons::dot(int inSize, const QColor &inColor)
         icon.addPixmap(pixmap);
     }
     return icon;
+}
+
+QImage DrawnIcons::image(const QIcon &inIcon)
+{
+    return inIcon.pixmap(QSize(kGrid, kGrid), 2.0).toImage();
 }

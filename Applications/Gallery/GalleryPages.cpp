@@ -8,24 +8,40 @@
 GalleryPage *makePalettePage(QWidget *inParent);
 GalleryPage *makeTypePage(QWidget *inParent);
 GalleryPage *makeIconsPage(QWidget *inParent);
+GalleryPage *makePicturesPage(QWidget *inParent);
+GalleryPage *makeMetricsPage(QWidget *inParent);
 GalleryPage *makeStandardWidgetsPage(QWidget *inParent);
 GalleryPage *makeSlidersPage(QWidget *inParent);
 GalleryPage *makeItemViewsPage(QWidget *inParent);
 GalleryPage *makeScrollingPage(QWidget *inParent);
 GalleryPage *makeMenusPage(QWidget *inParent);
-GalleryPage *makeMetricsPage(QWidget *inParent);
+GalleryPage *makePanesPage(QWidget *inParent);
+GalleryPage *makeButtonsPage(QWidget *inParent);
+GalleryPage *makeLabelsPage(QWidget *inParent);
+GalleryPage *makeToolButtonsPage(QWidget *inParent);
+GalleryPage *makeToolTipsPage(QWidget *inParent);
+GalleryPage *makeFieldsPage(QWidget *inParent);
+GalleryPage *makeBoxesPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
     {"palette", "Palette", &makePalettePage},
     {"type", "Type", &makeTypePage},
     {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
+    {"pictures", "Pictures", &makePicturesPage},
+    {"metrics", "Metrics", &makeMetricsPage},
     {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
     {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
     {"item-views", "Item views", &makeItemViewsPage},
     {"scrolling", "Scrolling", &makeScrollingPage},
     {"menus", "Menus", &makeMenusPage},
-    {"metrics", "Metrics", &makeMetricsPage},
+    {"frames-and-panes", "Frames and panes", &makePanesPage},
+    {"buttons", "Buttons", &makeButtonsPage},
+    {"labels", "Labels", &makeLabelsPage},
+    {"tool-buttons", "Tool buttons", &makeToolButtonsPage},
+    {"tool-tips", "Tool tips", &makeToolTipsPage},
+    {"fields", "Fields", &makeFieldsPage},
+    {"check-and-combo-boxes", "Check and combo boxes", &makeBoxesPage},
 };
 } // namespace
 

@@ -1,16 +1,37 @@
 #include "GalleryPage.h"
 
+#include "Controls/VantraMenu.h"
+#include "Controls/VantraMenuBar.h"
 #include "DrawnIcons.h"
+#include "Photograph.h"
 #include "WidgetPicture.h"
 
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
+// A menu that can look as if one of its submenus were open.
+class OpenableMenu : public VantraMenu
+{
+public:
+    using VantraMenu::VantraMenu;
+
+    QMenu *opened = nullptr;
+
+protected:
+    void initStyleOption(QStyleOptionMenuItem *ioOption, const QAction *inAction) const override
+    {
+        VantraMenu::initStyleOption(ioOption, inAction);
+        if (opened != nullptr && inAction == opened->menuAction())
+            ioOption->state |= QStyle::State_Selected;
+    }
+};
+
 // Paints a menu that is never popped up, since a popup can't stand in a page. The menu is real, measured and
 // painted by its own code.
 class MenuPicture : public QWidget
@@ -23,12 +44,25 @@ public:
     {
         mMenu->setParent(this, mMenu->windowFlags());
         setAccessibleName(mMenu->title());
+        // The submenu of an overlay menu stands open beside it.
+        if (auto *openable = dynamic_cast<OpenableMenu *>(mMenu)) {
+            mSubmenu = openable->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
+            openable->opened = mSubmenu;
+            openable->setActiveAction(nullptr);
+        }
     }
 
     QSize sizeHint() const override
     {
         mMenu->ensurePolished();
-        return mMenu->sizeHint().grownBy(margins());
+        QSize size = mMenu->sizeHint();
+        if (mSubmenu != nullptr) {
+            mSubmenu->ensurePolished();
+            const QSize submenu = mSubmenu->sizeHint();
+            size =
+                QSize(size.width() + submenu.width(), qMax(size.height(), submenuTop() + submenu.height()));
+        }
+        return size.grownBy(margins());
     }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -37,9 +71,12 @@ protected:
     {
         QPainter painter(this);
         if (mBackdrop == Photograph)
-            paintPhotograph(painter);
+            paintPhotograph(painter, rect());
         painter.drawImage(QPoint(margins().left(), margins().top()),
                           widgetPicture(mMenu, mMenu->sizeHint(), devicePixelRatioF()));
+        if (mSubmenu != nullptr)
+            painter.drawImage(QPoint(margins().left() + mMenu->width(), margins().top() + submenuTop()),
+                              widgetPicture(mSubmenu, mSubmenu->sizeHint(), devicePixelRatioF()));
     }
 
     // A menu is a window, which a parent's state doesn't reach.
@@ -53,24 +90,10 @@ protected:
 private:
     QMargins margins() const { return mBackdrop == Photograph ? QMargins(24, 16, 24, 16) : QMargins(); }
 
-    // Sky, hills and a low sun.
-    void paintPhotograph(QPainter &ioPainter) const
-    {
-        QLinearGradient sky(rect().topLeft(), rect().bottomLeft());
-        sky.setColorAt(0.0, QColor(40, 70, 130));
-        sky.setColorAt(0.6, QColor(235, 170, 120));
-        sky.setColorAt(0.61, QColor(60, 90, 60));
-        sky.setColorAt(1.0, QColor(25, 40, 30));
-        ioPainter.fillRect(rect(), sky);
-        ioPainter.save();
-        ioPainter.setRenderHint(QPainter::Antialiasing);
-        ioPainter.setPen(Qt::NoPen);
-        ioPainter.setBrush(QColor(255, 225, 150));
-        ioPainter.drawEllipse(QPointF(width() * 0.7, height() * 0.5), 18, 18);
-        ioPainter.restore();
-    }
+    int submenuTop() const { return mMenu->actionGeometry(mSubmenu->menuAction()).top(); }
 
     QMenu *mMenu;
+    QMenu *mSubmenu = nullptr;
     Backdrop mBackdrop;
 };
 
@@ -145,18 +168,43 @@ QMenu *makeSubMenus()
     return menu;
 }
 
-QMenu *makeOverlayMenu()
+void addOverlayItems(QMenu *ioMenu)
 {
-    auto *menu = new QMenu(QStringLiteral("Overlay"));
-    menu->setProperty("hudOverlay", true);
-    menu->addAction(DrawnIcons::picture(), QStringLiteral("Picture"));
-    menu->setActiveAction(menu->addAction(QStringLiteral("Hovered")));
-    menu->addAction(QStringLiteral("Disabled"))->setEnabled(false);
-    menu->addSeparator();
-    QAction *checked = menu->addAction(QStringLiteral("Checked"));
+    ioMenu->addAction(DrawnIcons::picture(), QStringLiteral("Picture"));
+    ioMenu->setActiveAction(ioMenu->addAction(QStringLiteral("Hovered")));
+    ioMenu->addAction(QStringLiteral("Disabled"))->setEnabled(false);
+    ioMenu->addSeparator();
+    QAction *checked = ioMenu->addAction(QStringLiteral("Checked"));
     checked->setCheckable(true);
     checked->setChecked(true);
-    menu->addMenu(QStringLiteral("Submenu"))->addAction(QStringLiteral("One"));
+}
+
+// Submenus of an overlay menu are overlay menus by their parent.
+QMenu *makeOverlayMenu()
+{
+    auto *menu = new OpenableMenu(QStringLiteral("Overlay"));
+    menu->setHudOverlay(true);
+    addOverlayItems(menu);
+    auto *submenu = new VantraMenu(QStringLiteral("Submenu"), menu);
+    addOverlayItems(submenu);
+    submenu->addMenu(DrawnIcons::folder(), QStringLiteral("And one more"))->addAction(QStringLiteral("One"));
+    menu->addMenu(submenu);
+    return menu;
+}
+
+// A click on a preset group applies its first preset; its submenu holds the others.
+QMenu *makeTriggerMenu()
+{
+    auto *menu = new VantraMenu(QStringLiteral("Submenu triggers"));
+    menu->setSubMenuTriggerEnabled(true);
+    for (const char *title : {"Portraits", "Landscapes"}) {
+        auto *submenu = new VantraMenu(QLatin1String(title), menu);
+        submenu->addAction(QStringLiteral("Soft"));
+        submenu->addAction(QStringLiteral("Strong"));
+        menu->addMenu(submenu);
+    }
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Without a submenu"));
     return menu;
 }
 
@@ -168,16 +216,21 @@ public:
         QVBoxLayout *body =
             addSection(QStringLiteral("Live menus"),
                        QStringLiteral("A menu bar and a button that open the menus for real."));
-        auto *bar = new QMenuBar;
-        bar->setNativeMenuBar(false);
+        auto *bar = new VantraMenuBar;
         for (const auto make : {&makePlainMenu, &makeIconMenu, &makeCheckMenu, &makeShortcutMenu,
-                                &makeSubMenus, &makeOverlayMenu}) {
+                                &makeSubMenus, &makeOverlayMenu, &makeTriggerMenu}) {
             QMenu *menu = make();
             menu->setParent(bar, menu->windowFlags());
             menu->setActiveAction(nullptr);
             bar->addMenu(menu);
         }
         body->addWidget(bar);
+        auto *told =
+            makeNote(QStringLiteral("Of submenu triggers, a click on an item with a submenu triggers it."));
+        connect(bar, &QMenuBar::triggered, told, [told](QAction *inAction) {
+            told->setText(QStringLiteral("Triggered: ") + inAction->text());
+        });
+        body->addWidget(told);
         auto *button = new QPushButton(QStringLiteral("Open a menu"));
         auto *menu = makeShortcutMenu();
         menu->setParent(button, menu->windowFlags());
@@ -196,7 +249,7 @@ public:
         pictures->addSpacing(8);
         SampleGrid wide(pictures, 2, Qt::AlignBottom);
         wide.add(QStringLiteral("shortcuts and long texts"), new MenuPicture(makeShortcutMenu()));
-        wide.add(QStringLiteral("overlay on a picture"),
+        wide.add(QStringLiteral("overlay menu with its submenu on a picture"),
                  new MenuPicture(makeOverlayMenu(), MenuPicture::Photograph));
     }
 

@@ -1,6 +1,8 @@
 #include "Style/VantraStyleHelperComboBox.h"
 
+#include "Style/VantraTextMeasure.h"
 #include "StyleOptions/VantraStyleOptionComboBox.h"
+#include "StyleOptions/VantraStyleOptionViewItem.h"
 #include "Theme/VantraCornerRadii.h"
 #include "Theme/VantraStyleTheme.h"
 
@@ -11,26 +13,21 @@
 
 namespace {
 
-// What one row needs of the popup, in logical pixels.
-int rowWidth(const QStyle &inStyle, const QComboBox &inComboBox, const QModelIndex &inIndex, int inIconWidth)
+// What one row needs of the popup, in logical pixels. The item holds what all rows have in common.
+int rowWidth(const QStyle &inStyle, const QComboBox &inComboBox, const QModelIndex &inIndex, int inIconWidth,
+             VantraStyleOptionViewItem &ioItem)
 {
     const QVariant check = inIndex.data(Qt::CheckStateRole);
-    QStyleOptionViewItem item;
-    item.font = inComboBox.font();
-    item.fontMetrics = inComboBox.fontMetrics();
-    item.text = inIndex.data(Qt::DisplayRole).toString();
-    item.icon = qvariant_cast<QIcon>(inIndex.data(Qt::DecorationRole));
-    item.decorationSize = inComboBox.iconSize();
-    item.features = QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDisplay;
-    if (!item.icon.isNull()) {
-        item.features |= QStyleOptionViewItem::HasDecoration;
-    }
-    item.checkState = static_cast<Qt::CheckState>(check.toInt());
+    ioItem.text = inIndex.data(Qt::DisplayRole).toString();
+    ioItem.icon = qvariant_cast<QIcon>(inIndex.data(Qt::DecorationRole));
+    ioItem.features.setFlag(QStyleOptionViewItem::HasDecoration, !ioItem.icon.isNull());
+    ioItem.checkState = static_cast<Qt::CheckState>(check.toInt());
 
     const auto width = [&](QStyle::SubElement element) {
-        return inStyle.subElementRect(element, &item, &inComboBox).width();
+        return inStyle.subElementRect(element, &ioItem, &inComboBox).width();
     };
-    int result = qMax(width(QStyle::SE_ItemViewItemText), item.fontMetrics.boundingRect(item.text).width()) +
+    int result = qMax(width(QStyle::SE_ItemViewItemText),
+                      VantraTextMeasure::rowBoundingWidth(ioItem.text, ioItem.fontMetrics)) +
                  qMax(inIconWidth, width(QStyle::SE_ItemViewItemDecoration));
     if (check.isValid()) {
         result += width(QStyle::SE_ItemViewItemCheckIndicator);
@@ -126,11 +123,16 @@ QRect VantraStyleHelperComboBox::popupRect(const VantraStyleOptionComboBox &opti
     const int scrollBarWidth = comboBox->view()->verticalScrollBar()->sizeHint().width();
     const int iconWidth = comboBox->view()->iconSize().width();
     int widest = comboBox->minimumWidth();
+    VantraStyleOptionViewItem item;
+    item.font = comboBox->font();
+    item.fontMetrics = comboBox->fontMetrics();
+    item.decorationSize = comboBox->iconSize();
+    item.features = QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDisplay;
     const QModelIndex root = comboBox->rootModelIndex();
     const int rows = comboBox->model()->rowCount(root);
     for (int row = 0; row < rows; ++row) {
         const QModelIndex index = comboBox->model()->index(row, comboBox->modelColumn(), root);
-        widest = qMax(widest, scrollBarWidth + rowWidth(*style(), *comboBox, index, iconWidth));
+        widest = qMax(widest, scrollBarWidth + rowWidth(*style(), *comboBox, index, iconWidth, item));
     }
     rect.setWidth(qMax(rect.width(), widest));
     return rect;

@@ -205,7 +205,8 @@ QSize VantraStyleHelperItemView::size(VantraStyleOptionViewItem &item, const QWi
                style()->pixelMetric(QStyle::PM_IndicatorHeight, &item, widget));
     }
     if (!item.text.isEmpty()) {
-        const QSize text = item.fontMetrics.size(static_cast<int>(item.displayAlignment.toInt()), item.text);
+        const QSize text = VantraTextMeasure::rowSize(item.text, item.fontMetrics,
+                                                      static_cast<int>(item.displayAlignment.toInt()));
         append(text.width() + 4, text.height());
     }
     size = size.grownBy(mTheme->viewItemPadding(&item));

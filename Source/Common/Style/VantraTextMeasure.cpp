@@ -1,6 +1,6 @@
 #include "Style/VantraTextMeasure.h"
 
-#include <QtCore/QHashFunctions>
+#include <QtCore/QHash>
 #include <QtGui/QFontMetrics>
 
 #include <array>
@@ -12,6 +12,9 @@ namespace {
 
 // Each text has one place, which the next text of the same place takes over.
 constexpr std::size_t kPlaces = 256;
+
+// More texts than this are measured anew.
+constexpr qsizetype kRows = 16384;
 
 // Between two alternatives of different length in one text; Qt chooses among them.
 constexpr QChar kVariantSeparator(0x9c);
@@ -38,6 +41,29 @@ struct ElisionPlace : Place
     QString elided;
     int elidedWidth = -1; // -1 as long as nothing was cut
     Qt::TextElideMode mode = Qt::ElideNone;
+};
+
+// One measure of many texts.
+template <typename Value>
+class RowMemo
+{
+public:
+    template <typename Measure>
+    Value of(const QString &inText, const QFontMetrics &inMetrics, int inFlags, Measure inMeasure)
+    {
+        if (!mMetrics || *mMetrics != inMetrics || mFlags != inFlags || mValues.size() >= kRows) {
+            mValues.clear();
+            mMetrics = inMetrics;
+            mFlags = inFlags;
+        }
+        const auto found = mValues.constFind(inText);
+        return found != mValues.cend() ? *found : *mValues.insert(inText, inMeasure());
+    }
+
+private:
+    QHash<QString, Value> mValues;
+    std::optional<QFontMetrics> mMetrics;
+    int mFlags = 0;
 };
 
 template <typename PlaceType>
@@ -83,6 +109,18 @@ QString elided(const QString &inText, const QFontMetrics &inMetrics, Qt::TextEli
         place.mode = inMode;
     }
     return place.elided;
+}
+
+QSize rowSize(const QString &inText, const QFontMetrics &inMetrics, int inFlags)
+{
+    static RowMemo<QSize> sSizes;
+    return sSizes.of(inText, inMetrics, inFlags, [&] { return inMetrics.size(inFlags, inText); });
+}
+
+int rowBoundingWidth(const QString &inText, const QFontMetrics &inMetrics)
+{
+    static RowMemo<int> sWidths;
+    return sWidths.of(inText, inMetrics, 0, [&] { return inMetrics.boundingRect(inText).width(); });
 }
 
 } // namespace VantraTextMeasure

@@ -1,0 +1,7 @@
+#include "Controls/VantraComboBox.h"
+
+VantraComboBox::VantraComboBox(QWidget *inParent) : VantraComboBoxBase(inParent)
+{
+}
+
+VantraComboBox::~VantraComboBox() = default;

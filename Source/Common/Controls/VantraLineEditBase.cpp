@@ -1,0 +1,114 @@
+#include "Controls/VantraLineEditBase.h"
+
+#include "Controls/VantraEditLook_p.h"
+#include "StyleOptions/VantraStyleOptionLineEdit.h"
+
+#include "VTQtLocale.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+
+VantraLineEditBase::VantraLineEditBase(QWidget *inParent) : QLineEdit(inParent)
+{
+}
+
+VantraLineEditBase::~VantraLineEditBase() = default;
+
+void VantraLineEditBase::setBorderStyle(BorderStyle inStyle)
+{
+    if (mBorderStyle == inStyle) {
+        return;
+    }
+    mBorderStyle = inStyle;
+    update();
+}
+
+void VantraLineEditBase::setExcludeLocaleGroupSeparator(bool inExclude)
+{
+    mExcludeLocaleGroupSeparator = inExclude;
+}
+
+void VantraLineEditBase::setSelectAllOnFocus(bool inSelect)
+{
+    mSelectAllOnFocus = inSelect;
+}
+
+QSize VantraLineEditBase::sizeHint() const
+{
+    // Called for the polish alone, which may bring another font.
+    static_cast<void>(QLineEdit::sizeHint());
+    return fontMetrics().tightBoundingRect(QStringLiteral("99999.9")).size();
+}
+
+bool VantraLineEditBase::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (!key->isAutoRepeat() && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Return)) {
+            event->accept();
+        }
+    } else if (event->type() == QEvent::KeyPress && mExcludeLocaleGroupSeparator) {
+        if (static_cast<QKeyEvent *>(event)->text() == VTQtLocale().groupSeparator()) {
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void VantraLineEditBase::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    setFontUnderlining(true);
+    if (mSelectAllOnFocus) {
+        // A mouse press that brings the focus has yet to place the cursor.
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    }
+}
+
+void VantraLineEditBase::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    setFontUnderlining(false);
+}
+
+void VantraLineEditBase::enterEvent(QEnterEvent *event)
+{
+    QLineEdit::enterEvent(event);
+    setPaletteTextColor(true, !isEnabled());
+}
+
+void VantraLineEditBase::leaveEvent(QEvent *event)
+{
+    setPaletteTextColor(false, !isEnabled());
+    QLineEdit::leaveEvent(event);
+}
+
+void VantraLineEditBase::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    VantraStyleOptionLineEdit option;
+    initStyleOption(&option);
+    option.borderStyle = mBorderStyle;
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+    QLineEdit::paintEvent(event);
+}
+
+void VantraLineEditBase::initStyleOption(QStyleOptionFrame *option) const
+{
+    QLineEdit::initStyleOption(option);
+    if (option != nullptr) {
+        option->state &= ~QStyle::State_Sunken;
+        VantraEditLook::setTextColor(option);
+    }
+}
+
+void VantraLineEditBase::setFontUnderlining(bool isUnderlined)
+{
+    VantraEditLook::setUnderlined(this, isUnderlined);
+}
+
+void VantraLineEditBase::setPaletteTextColor(bool isHighlighted, bool isDisabled)
+{
+    VantraEditLook::setTextColor(this, isHighlighted, isDisabled);
+}
