@@ -1,4 +1,4 @@
-// Benchmarks of the theme and the style. Every figure is paired with a reference in the same run: Fusion
+// Benchmarks of theme, style and window. Most figures are paired with a reference in the same run: Fusion
 // painting the same element, or the bare call.
 //
 //     ./run bench                                  all of them
@@ -63,6 +63,7 @@ int main(int argc, char **argv)
     Bench::registerStart();
     Bench::registerWhole();
     Bench::registerControls();
+    Bench::registerWindow();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

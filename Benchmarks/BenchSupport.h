@@ -47,6 +47,7 @@ void registerStyle();
 void registerStart();
 void registerWhole();
 void registerControls();
+void registerWindow();
 
 // Shows a window of controls and a long list under the application's style, and prints the most memory that
 // the process has held, in KiB; nothing where the system can't tell.

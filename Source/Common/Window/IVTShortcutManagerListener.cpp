@@ -1,0 +1,3 @@
+#include "Window/IVTShortcutManagerListener.h"
+
+IVTShortcutManagerListener::~IVTShortcutManagerListener() = default;

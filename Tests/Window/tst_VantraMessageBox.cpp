@@ -1,0 +1,471 @@
+#include "Style/VantraStyle.h"
+#include "Support/DataRows.h"
+#include "Support/FatalTest.h"
+#include "Support/ThemeFixture.h"
+#include "Theme/VantraFont.h"
+#include "VTQtSysInfoPretence.h"
+#include "Window/VantraMessageBox.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QAccessible>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+QString text(const char *inText)
+{
+    return QString::fromLatin1(inText);
+}
+
+// Waits for the dialog of a static operation, has the function work on it, and gives what the operation
+// returned.
+template <typename Run>
+int whileRunning(const Run &inRun, const std::function<void(QMessageBox *)> &inDo)
+{
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            timer.stop();
+            inDo(box);
+        }
+    });
+    timer.start(10);
+    return inRun();
+}
+
+// How a user or the program closes a dialog.
+struct CloseRow
+{
+    const char *name;
+    std::function<void(VantraMessageBox *)> close;
+    int result;
+};
+
+const std::vector<CloseRow> &closeRows()
+{
+    static const std::vector<CloseRow> sRows = {
+        {"mouse",
+         [](VantraMessageBox *ioBox) { QTest::mouseClick(ioBox->button(QMessageBox::Yes), Qt::LeftButton); },
+         QMessageBox::Yes},
+        {"default button", [](VantraMessageBox *ioBox) { QTest::keyClick(ioBox, Qt::Key_Return); },
+         QMessageBox::Yes},
+        {"Escape", [](VantraMessageBox *ioBox) { QTest::keyClick(ioBox, Qt::Key_Escape); },
+         QMessageBox::Cancel},
+        {"the window's button", [](VantraMessageBox *ioBox) { ioBox->windowHandle()->close(); },
+         QMessageBox::Cancel},
+        {"the program", [](VantraMessageBox *ioBox) { ioBox->done(77); }, 77},
+    };
+    return sRows;
+}
+
+} // namespace
+
+FATAL_CASE(noParent)
+{
+    const VantraMessageBox box(nullptr, QMessageBox::Ok);
+}
+
+FATAL_CASE(noCheckBox)
+{
+    VantraFont::loadApplicationFonts();
+    QWidget parent;
+    VantraMessageBox(&parent, QMessageBox::Ok).insertCheckboxBelowText(nullptr);
+}
+
+FATAL_CASE(noButton)
+{
+    VantraFont::loadApplicationFonts();
+    QWidget parent;
+    VantraMessageBox(&parent, QMessageBox::Ok)
+        .addButton(static_cast<QAbstractButton *>(nullptr), QMessageBox::ActionRole, nullptr, nullptr, true);
+}
+
+FATAL_CASE(noRole)
+{
+    VantraFont::loadApplicationFonts();
+    QWidget parent;
+    VantraMessageBox(&parent, QMessageBox::Ok)
+        .addButton(QString(), QMessageBox::InvalidRole, nullptr, nullptr, true);
+}
+
+class tst_VantraMessageBox : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void onHelp() { ++mHelpCount; }
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void mistakesStopTheProcess_data();
+    void mistakesStopTheProcess();
+    void textIsBoldAndKeepsItsLines();
+    void informativeTextIsSmallerAndWide();
+    void anyTextFitsTheScreen_data();
+    void anyTextFitsTheScreen();
+    void everyWayOfClosing_data();
+    void everyWayOfClosing();
+    void openButtonDoesItsWorkAndStays_data();
+    void openButtonDoesItsWorkAndStays();
+    void slotMayCloseOrDelete();
+    void checkBoxStaysAndTells();
+    void checkBoxIsNoChoiceForEscape();
+    void foreignCheckBoxMayGo();
+    void tabVisitsEveryButton();
+    void centresOnWhatIsVisible();
+    void staticsGiveTheChosenButton();
+    void hidingGivesTheParentTheFocus();
+
+private:
+    std::unique_ptr<QWidget> mParent;
+    int mHelpCount = 0;
+};
+
+void tst_VantraMessageBox::initTestCase()
+{
+    QVERIFY(ThemeFixture::load());
+    QApplication::setStyle(new VantraStyle);
+}
+
+void tst_VantraMessageBox::init()
+{
+    mHelpCount = 0;
+    mParent = std::make_unique<QWidget>();
+    mParent->setGeometry(100, 80, 400, 300);
+    mParent->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mParent.get()));
+}
+
+void tst_VantraMessageBox::cleanup()
+{
+    mParent.reset();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_VantraMessageBox::mistakesStopTheProcess_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::newRow("noParent") << "parent != NULL && \"parent should not be NULL, see bug #12851\"";
+    QTest::newRow("noCheckBox") << "checkbox != NULL && \"Checkbox should not be NULL\"";
+    QTest::newRow("noButton") << "button != NULL";
+    QTest::newRow("noRole") << "role != QMessageBox::InvalidRole";
+}
+
+void tst_VantraMessageBox::mistakesStopTheProcess()
+{
+    QFETCH(const QString, message);
+    QCOMPARE(FatalTest::assertionOf(QTest::currentDataTag()), message);
+}
+
+void tst_VantraMessageBox::textIsBoldAndKeepsItsLines()
+{
+    const VantraMessageBox box(text("Title"), text("One\n\nTwo\nThree"), QMessageBox::Ok, mParent.get(),
+                               false);
+    QCOMPARE(box.text(), text("<b>One<P>Two<BR>Three</b>"));
+    QCOMPARE(box.font().pointSize(), 12);
+    QCOMPARE(box.windowModality(), Qt::ApplicationModal);
+    QVERIFY(VantraMessageBox(mParent.get(), QMessageBox::Ok).text().isEmpty());
+}
+
+void tst_VantraMessageBox::informativeTextIsSmallerAndWide()
+{
+    VantraMessageBox box(text("Title"), text("Text"), text("More"), QMessageBox::Ok, mParent.get(), false);
+    const auto label = [&box] { return box.findChild<QLabel *>(text("qt_msgbox_informativelabel")); };
+    // Each of these makes QMessageBox lay itself out anew.
+    const std::vector<std::function<void()>> disturbances = {
+        [] {},
+        [&] { box.setInformativeText(text("Other")); },
+        [&] { box.setDetailedText(text("Details")); },
+        [&] { box.setIconPixmap(QPixmap(16, 16)); },
+        [&] {
+            box.setInformativeText(QString());
+            box.setInformativeText(text("Again"));
+        },
+    };
+    for (const auto &disturb : disturbances) {
+        disturb();
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QCOMPARE(label()->font().pointSize(), 11);
+        QVERIFY(label()->width() >= 350);
+        QVERIFY(label()->isVisible());
+        QCOMPARE(box.childAt(label()->mapTo(&box, label()->rect().center())), label());
+        // Nothing of an earlier layout is left behind at the corner.
+        QVERIFY(box.childAt(1, 1) == nullptr);
+        box.hide();
+    }
+}
+
+void tst_VantraMessageBox::anyTextFitsTheScreen_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("informativeText");
+    const QString sentence = text("All pictures of the folder are written again. ");
+    for (const int length : {0, 1, 5, 20}) {
+        for (const int informativeLength : {0, 1, 20}) {
+            QTest::addRow("%d and %d sentences", length, informativeLength)
+                << sentence.repeated(length) << sentence.repeated(informativeLength);
+        }
+    }
+    QTest::newRow("one long word") << text("ExportedPicture").repeated(40) << QString();
+}
+
+void tst_VantraMessageBox::anyTextFitsTheScreen()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, informativeText);
+    for (const bool checkBox : {false, true}) {
+        VantraMessageBox box(QStringLiteral("Title"), text, informativeText,
+                             QMessageBox::Yes | QMessageBox::Cancel, mParent.get(), checkBox);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QVERIFY(box.width() <= box.screen()->availableGeometry().width());
+        const QList<QLabel *> labels = box.findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->isVisible() && !label->text().isEmpty()) {
+                const int wanted =
+                    label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+                QVERIFY(label->height() >= wanted);
+            }
+        }
+        for (const QAbstractButton *button : box.buttons()) {
+            QVERIFY(button->width() >= button->minimumSizeHint().width());
+            QVERIFY(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
+        }
+    }
+}
+
+void tst_VantraMessageBox::everyWayOfClosing_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<bool>("afterOpenButton");
+    for (std::size_t row = 0; row < closeRows().size(); ++row) {
+        QTest::addRow("%s", closeRows()[row].name) << static_cast<int>(row) << false;
+        QTest::addRow("%s after a button that stays", closeRows()[row].name) << static_cast<int>(row) << true;
+    }
+}
+
+void tst_VantraMessageBox::everyWayOfClosing()
+{
+    QFETCH(const int, row);
+    QFETCH(const bool, afterOpenButton);
+    const CloseRow &way = closeRows()[static_cast<std::size_t>(row)];
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Yes | QMessageBox::Cancel, mParent.get(),
+                         false);
+    QPushButton *help = box.addButton(text("Show"), QMessageBox::HelpRole, this, SLOT(onHelp()), false);
+    box.setDefaultButton(QMessageBox::Yes);
+    QSignalSpy finished(&box, &QDialog::finished);
+    QSignalSpy aboutToHide(&box, &VantraMessageBox::aboutToHide);
+    const int result = whileRunning([&] { return box.exec(); },
+                                    [&](QMessageBox *) {
+                                        if (afterOpenButton) {
+                                            QTest::mouseClick(help, Qt::LeftButton);
+                                            box.setFocus();
+                                        }
+                                        way.close(&box);
+                                    });
+    QCOMPARE(result, way.result);
+    QCOMPARE(mHelpCount, afterOpenButton ? 1 : 0);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(aboutToHide.count(), 1);
+}
+
+void tst_VantraMessageBox::openButtonDoesItsWorkAndStays_data()
+{
+    QTest::addColumn<bool>("standard");
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("own button, mouse") << false << true;
+    QTest::newRow("own button, key") << false << false;
+    QTest::newRow("standard button, mouse") << true << true;
+    QTest::newRow("standard button, key") << true << false;
+}
+
+void tst_VantraMessageBox::openButtonDoesItsWorkAndStays()
+{
+    QFETCH(const bool, standard);
+    QFETCH(const bool, byMouse);
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), false);
+    QPushButton *button =
+        standard ? box.addButton(QMessageBox::Apply, this, SLOT(onHelp()), false)
+                 : box.addButton(text("Show"), QMessageBox::ActionRole, this, SLOT(onHelp()), false);
+    QSignalSpy clicked(&box, &QMessageBox::buttonClicked);
+    QSignalSpy finished(&box, &QDialog::finished);
+    QSignalSpy aboutToHide(&box, &VantraMessageBox::aboutToHide);
+    box.setAttribute(Qt::WA_DeleteOnClose);
+    box.setResult(5);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    for (int count = 1; count <= 2; ++count) {
+        button->setFocus();
+        byMouse ? QTest::mouseClick(button, Qt::LeftButton) : QTest::keyClick(button, Qt::Key_Space);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(box.isVisible());
+        QCOMPARE(mHelpCount, count);
+        QCOMPARE(clicked.count(), count);
+        QCOMPARE(box.clickedButton(), button);
+    }
+    QCOMPARE(finished.count() + aboutToHide.count(), 0);
+    QCOMPARE(box.result(), 5);
+    QVERIFY(!box.signalsBlocked());
+    box.setAttribute(Qt::WA_DeleteOnClose, false);
+}
+
+void tst_VantraMessageBox::slotMayCloseOrDelete()
+{
+    auto *box = new VantraMessageBox(mParent.get(), QMessageBox::Ok);
+    QPushButton *button = box->addButton(text("Do"), QMessageBox::ActionRole, nullptr, nullptr, false);
+    connect(button, &QPushButton::clicked, box, [box] { box->done(9); });
+    box->show();
+    QVERIFY(QTest::qWaitForWindowExposed(box));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(!box->isVisible());
+    QCOMPARE(box->result(), 9);
+    connect(box, &QMessageBox::buttonClicked, box, &QObject::deleteLater);
+    const QPointer<VantraMessageBox> guard(box);
+    button->click();
+    QTRY_VERIFY(guard.isNull());
+}
+
+void tst_VantraMessageBox::checkBoxStaysAndTells()
+{
+    for (const auto system : {VTQtSysInfoPretence::Windows, VTQtSysInfoPretence::Other}) {
+        const VTQtSysInfoPretence pretence(system);
+        VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), true);
+        QSignalSpy spy(&box, &VantraMessageBox::dontShowMeAgainStateChanged);
+        auto *checkBox = box.findChild<QCheckBox *>();
+        QCOMPARE(checkBox->text(), text("Don't show me this message again"));
+        whileRunning([&] { return box.exec(); },
+                     [&](QMessageBox *) {
+                         QVERIFY(QTest::qWaitForWindowActive(&box));
+                         checkBox->setFocus();
+                         QTest::keyClick(checkBox, Qt::Key_Space);
+                         QVERIFY(box.isVisible());
+                         QVERIFY(box.clickedButton() == nullptr);
+                         QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+                     });
+        QVERIFY(box.isDontShowMeThisAgainChecked());
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.first().first().toInt(), static_cast<int>(Qt::Checked));
+    }
+}
+
+void tst_VantraMessageBox::checkBoxIsNoChoiceForEscape()
+{
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), true);
+    const int result = whileRunning([&] { return box.exec(); },
+                                    [&](QMessageBox *) { QTest::keyClick(&box, Qt::Key_Escape); });
+    QCOMPARE(result, static_cast<int>(QMessageBox::Ok));
+}
+
+void tst_VantraMessageBox::foreignCheckBoxMayGo()
+{
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), false);
+    auto *checkBox = new QCheckBox(text("Apply to all"));
+    QSignalSpy spy(checkBox, &QCheckBox::stateChanged);
+    box.insertCheckboxBelowText(checkBox);
+    checkBox->click();
+    QCOMPARE(spy.count(), 0); // earlier connections are cut
+    QVERIFY(!box.isDontShowMeThisAgainChecked());
+    delete checkBox;
+    box.setStandardButtons(QMessageBox::Cancel);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QCOMPARE(box.buttons().count(), 1);
+}
+
+void tst_VantraMessageBox::tabVisitsEveryButton()
+{
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Yes | QMessageBox::No, mParent.get(),
+                         true);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QList<QPair<int, QWidget *>> visited;
+    QSet<QWidget *> all;
+    QTRY_VERIFY(box.focusWidget() != nullptr);
+    for (int i = 0; i < 3; ++i) {
+        QWidget *widget = box.focusWidget();
+        all.insert(widget);
+        visited.append({widget->mapTo(&box, QPoint()).x(), widget});
+        const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY(!interface->text(QAccessible::Name).isEmpty());
+        QTest::keyClick(widget, Qt::Key_Tab);
+    }
+    QCOMPARE(all.count(), 3);
+    QCOMPARE(box.focusWidget(), visited.first().second);
+    // From left to right, wherever it starts.
+    const auto leftmost = std::min_element(visited.begin(), visited.end());
+    std::rotate(visited.begin(), leftmost, visited.end());
+    QVERIFY(std::is_sorted(visited.begin(), visited.end()));
+}
+
+void tst_VantraMessageBox::centresOnWhatIsVisible()
+{
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), false);
+    for (const bool visible : {true, false, true}) {
+        mParent->setVisible(visible);
+        box.show();
+        const QPoint centre = visible ? mParent->mapToGlobal(mParent->rect().center())
+                                      : QGuiApplication::primaryScreen()->availableGeometry().center();
+        QCOMPARE(box.pos(), centre - box.rect().center());
+        box.hide();
+    }
+}
+
+void tst_VantraMessageBox::staticsGiveTheChosenButton()
+{
+    using Box = VantraMessageBox;
+    const auto pressReturn = [](QMessageBox *inBox) { QTest::keyClick(inBox, Qt::Key_Return); };
+    const auto pressEscape = [](QMessageBox *inBox) { QTest::keyClick(inBox, Qt::Key_Escape); };
+    QWidget *parent = mParent.get();
+    const QString title = text("Title");
+    const std::vector<std::function<int()>> runs = {
+        [=] { return Box::warning(parent, title, title, QMessageBox::Yes, QMessageBox::No); },
+        [=] { return Box::question(parent, title, title, QMessageBox::Yes, QMessageBox::No); },
+        [=] { return Box::critical(parent, title, title, QMessageBox::Yes, QMessageBox::No); },
+        [=] {
+            return Box::warning(parent, title, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+        },
+        [=] {
+            return Box::question(parent, title, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+        },
+    };
+    for (const auto &run : runs) {
+        QCOMPARE(whileRunning(run, pressReturn), static_cast<int>(QMessageBox::Yes));
+        QCOMPARE(whileRunning(run, pressEscape), static_cast<int>(QMessageBox::No));
+    }
+    const auto single = [=] {
+        return Box::warning(parent, title, title, QMessageBox::Ok, QMessageBox::NoButton);
+    };
+    QCOMPARE(whileRunning(single,
+                          [](QMessageBox *inBox) {
+                              QCOMPARE(inBox->buttons().count(), 1);
+                              QTest::keyClick(inBox, Qt::Key_Escape);
+                          }),
+             static_cast<int>(QMessageBox::Ok));
+}
+
+void tst_VantraMessageBox::hidingGivesTheParentTheFocus()
+{
+    QWidget other;
+    other.show();
+    VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), false);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QSignalSpy aboutToHide(&box, &VantraMessageBox::aboutToHide);
+    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    QCOMPARE(aboutToHide.count(), 1);
+    QCOMPARE(aboutToHide.first().first().toInt(), static_cast<int>(QMessageBox::Ok));
+    QTRY_VERIFY(mParent->isActiveWindow());
+}
+
+FATAL_TEST_MAIN(tst_VantraMessageBox)
+#include "tst_VantraMessageBox.moc"
