@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <vector>
 
-#if defined(Q_OS_MACOS)
+#if defined(__APPLE__)
 static const char *formatText(CFStringRef inFormat)
 {
     return CFStringGetCStringPtr(inFormat, kCFStringEncodingUTF8);

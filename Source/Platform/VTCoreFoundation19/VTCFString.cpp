@@ -1,6 +1,6 @@
 #include "VTCFString.h"
 
-#if !defined(Q_OS_MACOS)
+#if !defined(__APPLE__)
 
 #include <atomic>
 #include <memory>
@@ -47,8 +47,10 @@ void CFRelease(CFStringRef inString)
 
 CFStringRef VTCFConstantString(const char *inLiteral)
 {
-    static std::mutex sMutex;
-    static std::unordered_map<const char *, std::unique_ptr<const __CFString>> sStrings;
+    using Strings = std::unordered_map<const char *, std::unique_ptr<const __CFString>>;
+    // Not destroyed at the program's end, which threads may outlive.
+    static std::mutex &sMutex = *new std::mutex;
+    static Strings &sStrings = *new Strings;
     const std::lock_guard<std::mutex> lock(sMutex);
     std::unique_ptr<const __CFString> &string = sStrings[inLiteral];
     if (!string) {

@@ -6,19 +6,22 @@
 //     VTLog(CFSTR("Job::start %s\n"), CFStringGetUTF8(name));
 //     CFRelease(name);
 //
-// All operations may be called from any thread; the count is atomic. On macOS the system's own CoreFoundation
-// has handles of these names, and this header steps aside for it.
+// All operations may be called from any thread; the count is atomic. C sources may include this header. On
+// macOS the system's own CoreFoundation has handles of these names, and this header steps aside for it.
 
 #include "VTCoreFoundation19Export.h"
 
-#if defined(Q_OS_MACOS)
+#if defined(__APPLE__)
 
 #include <CoreFoundation/CoreFoundation.h>
 
 #else
 
-struct __CFString;
-using CFStringRef = const __CFString *;
+#if defined(__cplusplus)
+extern "C" {
+#endif
+
+typedef const struct __CFString *CFStringRef;
 
 // Makes a handle with a copy of the zero-terminated UTF-8 text. The caller owns one reference and gives it
 // back with CFRelease. A null text gives a null handle.
@@ -37,5 +40,9 @@ VTCOREFOUNDATION19_EXPORT void CFRelease(CFStringRef inString);
 VTCOREFOUNDATION19_EXPORT CFStringRef VTCFConstantString(const char *inLiteral);
 
 #define CFSTR(literal) VTCFConstantString("" literal)
+
+#if defined(__cplusplus)
+}
+#endif
 
 #endif
