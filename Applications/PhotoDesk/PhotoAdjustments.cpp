@@ -13,6 +13,13 @@ bool PhotoAdjustments::operator==(const PhotoAdjustments &inOther) const
     return curve == inOther.curve && quarterTurns == inOther.quarterTurns && crop == inOther.crop;
 }
 
+void PhotoAdjustments::turn(int inQuarterTurns)
+{
+    quarterTurns = (quarterTurns + inQuarterTurns) % 4;
+    for (int turned = 0; turned < inQuarterTurns; ++turned)
+        crop = QRectF(1.0 - crop.bottom(), crop.left(), crop.height(), crop.width());
+}
+
 QJsonObject PhotoAdjustments::look() const
 {
     QJsonObject look;

@@ -25,6 +25,9 @@ struct PhotoAdjustments
     bool operator==(const PhotoAdjustments &inOther) const;
     bool operator!=(const PhotoAdjustments &inOther) const { return !(*this == inOther); }
 
+    // Clockwise; the crop turns with the photo.
+    void turn(int inQuarterTurns);
+
     // The look alone, without turning and cropping, which belong to one photo. That is what presets keep.
     QJsonObject look() const;
 

@@ -49,6 +49,17 @@ QImage PhotoFile::loadThumbnail(const QString &inPath, int inSide, QString &outR
     return read(reader, outReason);
 }
 
+QSize PhotoFile::sizeOf(const QString &inPath, QString &outReason)
+{
+    QImageReader reader(inPath);
+    const QSize size = reader.size();
+    if (size.isEmpty()) {
+        // Formats that don't tell their size are read whole.
+        return load(inPath, outReason).size();
+    }
+    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;
+}
+
 QStringList PhotoFile::photosIn(const QStringList &inPaths)
 {
     QStringList patterns;

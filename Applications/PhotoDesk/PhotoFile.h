@@ -19,6 +19,9 @@ QImage load(const QString &inPath, QString &outReason);
 // A picture of at most that many pixels a side, read at once in that size where the format allows it.
 QImage loadThumbnail(const QString &inPath, int inSide, QString &outReason);
 
+// The size that load() would give, from the file's head alone; empty with a reason for no photo.
+QSize sizeOf(const QString &inPath, QString &outReason);
+
 // The files that can be photos by their names, from a mix of files and folders; folders are not searched
 // deeper.
 QStringList photosIn(const QStringList &inPaths);

@@ -10,6 +10,8 @@
 namespace {
 constexpr double kGamma = 2.2;
 constexpr int kRowsPerReport = 64;
+constexpr int kClippedShadow = 1;
+constexpr int kClippedHighlight = 254;
 
 // Brightness of a channel, 0 to 1, after the light adjustments and before the curve.
 double lightened(double inValue, const PhotoAdjustments &inAdjustments, double inGain)
@@ -63,6 +65,20 @@ void PhotoLook::apply(QImage &ioImage, int inFirstRow, int inRowCount) const
                 blue = std::clamp(grey + ((blue - grey) * mSaturation >> 8), 0, 255);
             }
             *pixel = (*pixel & 0xFF000000u) | static_cast<QRgb>(red << 16 | green << 8 | blue);
+        }
+    }
+}
+
+void PhotoRenderer::markClipped(QImage &ioImage)
+{
+    for (int row = 0; row < ioImage.height(); ++row) {
+        auto *pixel = reinterpret_cast<QRgb *>(ioImage.scanLine(row));
+        for (const QRgb *end = pixel + ioImage.width(); pixel != end; ++pixel) {
+            const auto [lowest, highest] = std::minmax({qRed(*pixel), qGreen(*pixel), qBlue(*pixel)});
+            if (highest <= kClippedShadow)
+                *pixel = qRgb(60, 110, 255);
+            else if (lowest >= kClippedHighlight)
+                *pixel = qRgb(255, 50, 50);
         }
     }
 }

@@ -29,6 +29,9 @@ private:
 
 namespace PhotoRenderer {
 
+// Shows in colour where an image has lost its shadows (blue) and its highlights (red). Of Format_RGB32.
+void markClipped(QImage &ioImage);
+
 // The curve through the points, without overshoot, at 256 equal steps; 0 to 1.
 std::array<double, 256> curveTable(const QVector<QPointF> &inPoints);
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Draws the gallery's two animated tool tips and writes them beside this script.
 
-    python3 Applications/Gallery/ToolTips/make_tips.py
+    python3 Applications/ToolTips/make_tips.py
 
 Needs Python alone. The pictures are in double resolution: 640 by 360 pixels, shown at 320 by 180. A display of
 single resolution shows every second pixel, so edges are softened over two pixels instead of one.
