@@ -11,7 +11,7 @@
 #include <QtWidgets/QUndoView>
 
 namespace {
-constexpr int kWidth = 300;
+constexpr int kWidth = 320;
 constexpr int kHistoryHeight = 130;
 
 const PhotoSliderInfo &infoOf(const char *inName)
@@ -57,8 +57,7 @@ Pane *AdjustmentColumn::addPane(const QString &inTitle, const char *inName)
     auto *pane = new Pane(inTitle, this);
     pane->setObjectName(QLatin1String(inName) + QStringLiteral("Pane"));
     mLayout->addWidget(pane);
-    connect(pane, &Pane::paneExpandedChanged, this,
-            [this] { VantraFramePane::updatePaneStates(mLayout); });
+    connect(pane, &Pane::paneExpandedChanged, this, [this] { VantraFramePane::updatePaneStates(mLayout); });
     return pane;
 }
 
@@ -92,12 +91,13 @@ void AdjustmentColumn::addPresets()
 {
     mPresets = new PresetControls(this);
     addPane(tr("Presets"), "presets")->contents()->addWidget(mPresets);
-    connect(mPresets, &PresetControls::chosen, this, [this](const QString &inName, const QJsonObject &inLook) {
-        PhotoAdjustments adjustments = mPhoto->adjustments();
-        adjustments.setLook(inLook);
-        mPhoto->change(tr("Preset \"%1\"").arg(inName), adjustments);
-        mPhoto->endStep();
-    });
+    connect(mPresets, &PresetControls::chosen, this,
+            [this](const QString &inName, const QJsonObject &inLook) {
+                PhotoAdjustments adjustments = mPhoto->adjustments();
+                adjustments.setLook(inLook);
+                mPhoto->change(tr("Preset \"%1\"").arg(inName), adjustments);
+                mPhoto->endStep();
+            });
 }
 
 void AdjustmentColumn::addHistory()

@@ -48,9 +48,8 @@ CanvasHud::CanvasHud(PhotoCanvas *inCanvas)
     mZoom->setToolTip(tr("Zoom"));
     mZoom->setFixedWidth(kZoomWidth);
     mZoom->setFocusPolicy(Qt::NoFocus);
-    connect(mZoom, &VantraButton::clicked, this, [this] {
-        mMenu->popup(mZoom->mapToGlobal(QPoint(0, -mMenu->sizeHint().height() - 8)));
-    });
+    connect(mZoom, &VantraButton::clicked, this,
+            [this] { mMenu->popup(mZoom->mapToGlobal(QPoint(0, -mMenu->sizeHint().height() - 8))); });
     VantraToolButton *out = makeButton(Icons::zoomOut(), tr("Zoom out"), this);
     VantraToolButton *in = makeButton(Icons::zoomIn(), tr("Zoom in"), this);
     connect(out, &VantraToolButton::clicked, mCanvas, &PhotoCanvas::zoomOut);

@@ -30,7 +30,11 @@ protected:
     void mousePressEvent(QMouseEvent *inEvent) override;
     void mouseMoveEvent(QMouseEvent *inEvent) override;
     void mouseReleaseEvent(QMouseEvent *inEvent) override;
-    void mouseDoubleClickEvent(QMouseEvent *inEvent) override { Q_UNUSED(inEvent) emit finished(true); }
+    void mouseDoubleClickEvent(QMouseEvent *inEvent) override
+    {
+        Q_UNUSED(inEvent)
+        emit finished(true);
+    }
     void keyPressEvent(QKeyEvent *inEvent) override;
 
 private:
@@ -38,7 +42,7 @@ private:
 
     QRectF mPhotoRect;
     QRectF mCrop{0.0, 0.0, 1.0, 1.0};
-    Qt::Edges mEdges;   // under the pointer
+    Qt::Edges mEdges;    // under the pointer
     bool mDrags = false; // its edges, or the whole frame if there are none
     QPointF mDragFrom;
     QRectF mDragCrop;

@@ -10,16 +10,15 @@
 #include <algorithm>
 
 namespace {
-constexpr double kReach = 9.0;    // of a point, in pixels
-constexpr double kLeast = 0.01;   // between two points
+constexpr double kReach = 9.0;  // of a point, in pixels
+constexpr double kLeast = 0.01; // between two points
+constexpr int kHeight = 190;
 constexpr int kMostPoints = 12;
 } // namespace
 
 CurveEditor::CurveEditor(QWidget *inParent) : QWidget(inParent)
 {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
+    setFixedHeight(kHeight);
     setAccessibleName(tr("Tone curve"));
     setToolTip(tr("Click to make a point, drag to move it, double-click to remove it"));
 }

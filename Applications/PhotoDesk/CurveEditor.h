@@ -19,10 +19,6 @@ public:
     // How often each of the 256 levels comes in the photo, shown behind the curve.
     void setHistogram(const QVector<int> &inCounts);
 
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int inWidth) const override { return inWidth * 3 / 4; }
-    QSize sizeHint() const override { return {200, heightForWidth(200)}; }
-
 signals:
     void pointsChanged(const QVector<QPointF> &inPoints);
     void finished();

@@ -27,8 +27,8 @@ void forEachFile(__VTProgress *ioProgress, const QStringList &inPaths, Function 
         VTProgressSetStageName(ioProgress, name);
         CFRelease(name);
         const auto report = [&](int inDone, int inAll) {
-            result = VTProgressDoProgressUpdateStage(
-                ioProgress, index * kStepsPerPhoto + inDone * (kStepsPerPhoto - 1) / inAll);
+            result = VTProgressDoProgressUpdateStage(ioProgress, index * kStepsPerPhoto +
+                                                                     inDone * (kStepsPerPhoto - 1) / inAll);
             return result == 0;
         };
         if (report(0, 1))

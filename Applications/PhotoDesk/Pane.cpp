@@ -40,8 +40,8 @@ void PaneHeader::paintEvent(QPaintEvent *inEvent)
 {
     VantraFramePane::paintEvent(inEvent);
     QPainter painter(this);
-    const VantraPalette::PaletteGroup group = paneHovered() || hasFocus() ? VantraPalette::Highlighted
-                                                                          : VantraPalette::Normal;
+    const VantraPalette::PaletteGroup group =
+        paneHovered() || hasFocus() ? VantraPalette::Highlighted : VantraPalette::Normal;
     const QColor color =
         VantraStyleTheme::instance().colorPalette().color(group, VantraPalette::PaneHeaderText);
     painter.setFont(titleFont());

@@ -46,10 +46,10 @@ struct PhotoSliderInfo
 };
 inline constexpr PhotoSliderInfo kPhotoSliders[] = {
     {"exposure", &PhotoAdjustments::exposure, -3.0, 3.0, 2},
-    {"contrast", &PhotoAdjustments::contrast, -100.0, 100.0, 0},
-    {"highlights", &PhotoAdjustments::highlights, -100.0, 100.0, 0},
-    {"shadows", &PhotoAdjustments::shadows, -100.0, 100.0, 0},
-    {"temperature", &PhotoAdjustments::temperature, -100.0, 100.0, 0},
-    {"tint", &PhotoAdjustments::tint, -100.0, 100.0, 0},
-    {"saturation", &PhotoAdjustments::saturation, -100.0, 100.0, 0},
+    {"contrast", &PhotoAdjustments::contrast, -100.0, 100.0, 1},
+    {"highlights", &PhotoAdjustments::highlights, -100.0, 100.0, 1},
+    {"shadows", &PhotoAdjustments::shadows, -100.0, 100.0, 1},
+    {"temperature", &PhotoAdjustments::temperature, -100.0, 100.0, 1},
+    {"tint", &PhotoAdjustments::tint, -100.0, 100.0, 1},
+    {"saturation", &PhotoAdjustments::saturation, -100.0, 100.0, 1},
 };

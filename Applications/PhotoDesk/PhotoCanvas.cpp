@@ -153,7 +153,8 @@ void PhotoCanvas::place()
         mShownTurns = mPhoto->adjustments().quarterTurns;
         mShownCrop = mPhoto->adjustments().crop;
         if (mFits || isCropping()) {
-            const QSizeF space = (QSizeF(size()) - QSizeF(2 * kFitMargin, 2 * kFitMargin)) * devicePixelRatioF();
+            const QSizeF space =
+                (QSizeF(size()) - QSizeF(2 * kFitMargin, 2 * kFitMargin)) * devicePixelRatioF();
             mZoom = std::clamp(std::min(space.width() / result.width(), space.height() / result.height()),
                                1e-3, kLargestZoom);
         }
@@ -186,7 +187,8 @@ void PhotoCanvas::scaleVisiblePart()
     const QTransform turn = turning(mShownTurns, mPixels->size);
     QPointF cropped;
     if (!isCropping())
-        cropped = PhotoRenderer::cropRect(adjustments, turn.mapRect(QRect({}, mPixels->size)).size()).topLeft();
+        cropped =
+            PhotoRenderer::cropRect(adjustments, turn.mapRect(QRect({}, mPixels->size)).size()).topLeft();
     const QSizeF step(static_cast<double>(mPixels->size.width()) / level.width(),
                       static_cast<double>(mPixels->size.height()) / level.height());
     const QTransform toScreen = QTransform::fromScale(step.width(), step.height()) * turn *
@@ -229,7 +231,8 @@ void PhotoCanvas::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const VantraStyleTheme &theme = VantraStyleTheme::instance();
-    painter.fillRect(rect(), theme.colorPalette().color(VantraPalette::Normal, VantraPalette::FrameSunkenBackground));
+    painter.fillRect(rect(),
+                     theme.colorPalette().color(VantraPalette::Normal, VantraPalette::FrameSunkenBackground));
     if (mPixels == nullptr || mPixels->levels.isEmpty()) {
         paintNotice(painter);
         return;
@@ -245,7 +248,8 @@ void PhotoCanvas::paintEvent(QPaintEvent *)
     painter.drawImage(place, mApplied);
     if (mBeforeAfter) {
         const double x = std::round(place.left() + mDivider * place.width());
-        painter.fillRect(QRectF(x - 1.0, place.top(), 2.0, place.height()), theme.accentColor(QPalette::Active));
+        painter.fillRect(QRectF(x - 1.0, place.top(), 2.0, place.height()),
+                         theme.accentColor(QPalette::Active));
         painter.setFont(VantraFont::smallFont());
         painter.setPen(Qt::white);
         const QRectF line(place.left() + 12, place.top() + 8, place.width() - 24, 24);

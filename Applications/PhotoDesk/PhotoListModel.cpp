@@ -115,8 +115,10 @@ QVariant PhotoListModel::data(const QModelIndex &inIndex, int inRole) const
     switch (inRole) {
     case Qt::DisplayRole: return photo->name();
     case Qt::ToolTipRole:
-        return tr("%1\n%2 × %3 pixels").arg(photo->path()).arg(photo->size().width()).arg(
-            photo->size().height());
+        return tr("%1\n%2 × %3 pixels")
+            .arg(photo->path())
+            .arg(photo->size().width())
+            .arg(photo->size().height());
     case Qt::AccessibleDescriptionRole:
         return photo->waitsForExport() ? tr("edited") : photo->isExported() ? tr("exported") : QString();
     case PhotoRole: return QVariant::fromValue(photo);

@@ -49,7 +49,7 @@ PhotoWindow::PhotoWindow(QWidget *inParent)
     mSplitter->addWidget(mColumn);
     mSplitter->setStretchFactor(1, 1);
     mSplitter->setChildrenCollapsible(false);
-    mSplitter->setSizes({250, 700, 300});
+    mSplitter->setSizes({250, 700, 320});
     auto *layout = new QVBoxLayout(centralWidget());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -152,7 +152,8 @@ void PhotoWindow::closePhoto()
     if (photo == nullptr)
         return;
     if (photo->waitsForExport() &&
-        VantraMessageBox::question(this, tr("Close Photo"), tr("Close %1 without exporting it?").arg(photo->name()),
+        VantraMessageBox::question(this, tr("Close Photo"),
+                                   tr("Close %1 without exporting it?").arg(photo->name()),
                                    QMessageBox::Discard, QMessageBox::Cancel) != QMessageBox::Discard)
         return;
     // Nobody may hold it when it goes; the list's selection moves on by itself.
@@ -178,8 +179,8 @@ bool PhotoWindow::exportPhotos(const QList<Photo *> &inPhotos)
     if (inPhotos.isEmpty())
         return true;
     QSettings settings;
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Export To"),
-                                                             settings.value(kExportFolderKey).toString());
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Export To"), settings.value(kExportFolderKey).toString());
     if (folder.isEmpty())
         return false;
     settings.setValue(kExportFolderKey, folder);
@@ -243,11 +244,13 @@ void PhotoWindow::closeEvent(QCloseEvent *inEvent)
 {
     const QList<Photo *> waiting = mModel->photosToExport();
     if (!waiting.isEmpty()) {
-        VantraMessageBox box(QStringLiteral("PhotoDesk"),
-                             tr("%n photo(s) changed and not exported.", nullptr, static_cast<int>(waiting.size())),
-                             tr("The photos themselves are never changed: what isn't exported is lost."),
-                             QMessageBox::Discard | QMessageBox::Cancel, this, false);
-        QPushButton *exportButton = box.addButton(tr("Export…"), QMessageBox::AcceptRole, nullptr, nullptr, true);
+        VantraMessageBox box(
+            QStringLiteral("PhotoDesk"),
+            tr("%n photo(s) changed and not exported.", nullptr, static_cast<int>(waiting.size())),
+            tr("The photos themselves are never changed: what isn't exported is lost."),
+            QMessageBox::Discard | QMessageBox::Cancel, this, false);
+        QPushButton *exportButton =
+            box.addButton(tr("Export…"), QMessageBox::AcceptRole, nullptr, nullptr, true);
         box.setDefaultButton(exportButton);
         box.exec();
         const bool leaves = box.clickedButton() == exportButton

@@ -93,8 +93,8 @@ void PhotoWindow::fillRecentMenu(VantraMenu *ioMenu)
 void PhotoWindow::makeEditMenu(VantraMenuBar *ioBar)
 {
     VantraMenu *menu = addMenu(ioBar, tr("Edit"));
-    QAction *undo = menu->addAction(tr("Undo"), QKeySequence::Undo, this,
-                                    [this] { currentPhoto()->history()->undo(); });
+    QAction *undo =
+        menu->addAction(tr("Undo"), QKeySequence::Undo, this, [this] { currentPhoto()->history()->undo(); });
     QAction *redo = menu->addAction(tr("Redo"), QKeySequence(tr("Ctrl+Shift+Z")), this,
                                     [this] { currentPhoto()->history()->redo(); });
     menu->addSeparator();
@@ -145,7 +145,8 @@ void PhotoWindow::makeSettingsMenu(VantraMenuBar *ioBar)
     auto *formatGroup = new QActionGroup(menu);
     const QString format = QSettings().value(QStringLiteral("format"), QStringLiteral("jpg")).toString();
     for (const QString &suffix : {QStringLiteral("jpg"), QStringLiteral("png")}) {
-        addChoice(formatGroup, menu, suffix == QLatin1String("jpg") ? tr("Export as JPEG") : tr("Export as PNG"),
+        addChoice(formatGroup, menu,
+                  suffix == QLatin1String("jpg") ? tr("Export as JPEG") : tr("Export as PNG"),
                   suffix == format, [suffix] { QSettings().setValue(QStringLiteral("format"), suffix); });
     }
 }
@@ -192,17 +193,18 @@ VantraFrame *PhotoWindow::makeToolBar()
     addDoing(tr("Rotate left"), Icons::turnLeft(), Qt::Key_L, [this] { turn(3); });
     addDoing(tr("Rotate right"), Icons::turnRight(), Qt::Key_R, [this] { turn(1); });
     layout->addSpacing(12);
-    mCropButton = addTool(bar, tr("Crop"),
-                          tr("Drag the frame's corners and sides. <b>Return</b> cuts the photo, <b>Escape</b> "
-                             "leaves it as it was. What lies outside isn't lost."),
-                          Qt::Key_C);
+    mCropButton =
+        addTool(bar, tr("Crop"),
+                tr("Drag the frame's corners and sides. <b>Return</b> cuts the photo, <b>Escape</b> "
+                   "leaves it as it was. What lies outside isn't lost."),
+                Qt::Key_C);
     mCropButton->initOnOffStyle(Icons::crop(), VantraIconPalette::IconTintingOnAlternateOffForeground);
     connect(mCropButton, &VantraToolButton::clicked, this,
             [this](bool inOn) { inOn ? mCanvas->beginCrop() : mCanvas->endCrop(true); });
     connect(mCanvas, &PhotoCanvas::croppingChanged, mCropButton, &QAbstractButton::setChecked);
     VantraToolButton *compare =
-        addTool(bar, tr("Compare"), tr("Shows the photo as it came beside what you have made of it. Drag the line."),
-                Qt::Key_B);
+        addTool(bar, tr("Compare"),
+                tr("Shows the photo as it came beside what you have made of it. Drag the line."), Qt::Key_B);
     compare->setButtonImage(VantraToolButton::DualModeImage);
     connect(compare, &VantraToolButton::toggled, mCanvas, &PhotoCanvas::setBeforeAfter);
     VantraToolButton *inspect =

@@ -89,8 +89,7 @@ QString PresetControls::askName(const QString &inTitle, const QString &inName)
 bool PresetControls::tell(const QString &inRefusal)
 {
     if (!inRefusal.isEmpty()) {
-        VantraMessageBox::warning(window(), tr("Presets"), inRefusal, QMessageBox::Ok,
-                                  QMessageBox::NoButton);
+        VantraMessageBox::warning(window(), tr("Presets"), inRefusal, QMessageBox::Ok, QMessageBox::NoButton);
     }
     return inRefusal.isEmpty();
 }
