@@ -1,5 +1,6 @@
 # What "cmake --install" puts where, and the .deb files that CPack makes of it. Three components: Library (what a
-# program needs to run, with the style plugin), Development (headers, CMake package, pkg-config file), Gallery.
+# program needs to run, with the style plugin), Development (headers, CMake package, pkg-config file,
+# theme checker), Gallery.
 
 include(CMakePackageConfigHelpers)
 
@@ -98,6 +99,14 @@ if(TARGET vtwidgets-gallery)
     install(TARGETS vtwidgets-gallery RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Gallery)
 endif()
 
+# For writers of themes: the checker, and the schema for their editors.
+if(TARGET vtwidgets-theme)
+    vtwidgets_relative_rpath(vtwidgets-theme ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS vtwidgets-theme RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Development)
+endif()
+install(FILES Resources/Themes/theme.schema.json
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/VTWidgetsLite COMPONENT Development)
+
 # The fonts are inside the library, so their licences travel with it.
 install(FILES README.md DESTINATION ${documentDir} COMPONENT Development)
 set(fontNotices ${VTWIDGETS_FONT_NOTICES})
@@ -149,5 +158,5 @@ set(CPACK_DEBIAN_GALLERY_PACKAGE_NAME vtwidgetslite-gallery)
 set(CPACK_DEBIAN_GALLERY_PACKAGE_SECTION graphics)
 include(CPack)
 cpack_add_component(Library DESCRIPTION "The library, its sibling libraries and the style plugin Vantra.")
-cpack_add_component(Development DEPENDS Library DESCRIPTION "Headers, CMake package and pkg-config file.")
+cpack_add_component(Development DEPENDS Library DESCRIPTION "Headers, CMake package, pkg-config file and the theme checker.")
 cpack_add_component(Gallery DEPENDS Library DESCRIPTION "A program that shows everything the library has.")

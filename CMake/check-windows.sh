@@ -31,6 +31,18 @@ for folder in Source/Common/*/ Source/Platform/*/; do
     flags+=(-I "$folder")
 done
 
+# Headers of other makers that need nothing of this system; their own folder holds this system's headers too.
+valijson=
+for folder in ${VTWIDGETS_VALIJSON_INCLUDE_DIR:-} /usr/include /usr/local/include; do
+    if [[ -z $valijson && -f $folder/valijson/validator.hpp ]]; then
+        valijson=$folder/valijson
+    fi
+done
+[[ -n $valijson ]] || { echo "check-windows: valijson/validator.hpp was not found" >&2; exit 2; }
+mkdir "$work/headers"
+ln -s "$valijson" "$work/headers/valijson"
+flags+=(-isystem "$work/headers" -I Applications)
+
 mapfile -t sources < <(find Source Plugins Applications Resources/Tools -name '*.cpp' ! -name '*_other.cpp' | sort)
 
 # Meta-object code is not generated here, so what sources include of it is empty.

@@ -1,5 +1,6 @@
 #include "GalleryLook.h"
 
+#include "GalleryTheme.h"
 #include "Style/VantraStyle.h"
 #include "Theme/VantraFont.h"
 #include "Theme/VantraStyleTheme.h"
@@ -17,16 +18,49 @@ const std::array<GalleryLook::Accent, 5> GalleryLook::kAccents = {{
     {"orange", VantraPalette::OrangeAccentButtonBackground},
 }};
 
-void GalleryLook::start(const QString &inAccent, int inTextSize, Style inStyle)
+void GalleryLook::setThemeFiles(const QString &inThemeFile, const QString &inAccentFile)
+{
+    delete mTheme;
+    mTheme = new GalleryTheme(inThemeFile, inAccentFile, this);
+}
+
+bool GalleryLook::hasAccentFile() const
+{
+    return mTheme && mTheme->hasAccentFile();
+}
+
+QString GalleryLook::loadTheme()
+{
+    if (mTheme && mTheme->hasFiles())
+        return mTheme->load(mAccent);
+    VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), mAccent);
+    return QString();
+}
+
+QString GalleryLook::start(const QString &inAccent, int inTextSize, Style inStyle)
 {
     mAccent = inAccent;
     mTextSize = inTextSize;
     mStyle = inStyle;
     VantraFont::setUserSelectedFontPointSizeModifier(mTextSize);
     VantraFont::loadApplicationFonts();
-    VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), mAccent);
+    const QString trouble = loadTheme();
     installStyle();
     QApplication::setFont(VantraFont::mainFont());
+    return trouble;
+}
+
+void GalleryLook::followThemeFiles()
+{
+    if (!mTheme || !mTheme->hasFiles())
+        return;
+    connect(mTheme, &GalleryTheme::touched, this, [this] {
+        const QString trouble = loadTheme();
+        if (trouble.isEmpty())
+            tellAllWidgets();
+        emit themeTroubled(trouble);
+    });
+    mTheme->watch();
 }
 
 void GalleryLook::setAccent(const QString &inAccent)
@@ -34,8 +68,11 @@ void GalleryLook::setAccent(const QString &inAccent)
     if (mAccent == inAccent)
         return;
     mAccent = inAccent;
-    VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), mAccent);
-    tellAllWidgets();
+    const QString trouble = loadTheme();
+    if (trouble.isEmpty())
+        tellAllWidgets();
+    else
+        emit themeTroubled(trouble);
 }
 
 void GalleryLook::setTextSize(int inTextSize)

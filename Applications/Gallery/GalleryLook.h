@@ -11,6 +11,8 @@
 
 #include <array>
 
+class GalleryTheme;
+
 class GalleryLook : public QObject
 {
     Q_OBJECT
@@ -36,9 +38,18 @@ public:
     int textSize() const { return mTextSize; }
     Style style() const { return mStyle; }
 
+    // Shows documents of these names from start() on, in place of the library's own; either may be empty.
+    void setThemeFiles(const QString &inThemeFile, const QString &inAccentFile);
+
+    // True when the accent comes from a file, so that setAccent has no effect.
+    bool hasAccentFile() const;
+
     // Fonts, theme, style and application font, in the order that the library asks for. Once, before the
-    // first window.
-    void start(const QString &inAccent, int inTextSize, Style inStyle);
+    // first window. Returns what is wrong with the theme files, in one line, or nothing.
+    QString start(const QString &inAccent, int inTextSize, Style inStyle);
+
+    // From now on, changes of the theme files are shown as they come.
+    void followThemeFiles();
 
     void setAccent(const QString &inAccent);
     void setTextSize(int inTextSize);
@@ -48,10 +59,16 @@ signals:
     // Every widget has been told already; for what paints nothing of its own but holds a copy of the theme.
     void changed();
 
+    // What is wrong with the theme files as they are now, or nothing once it is mended. What was shown before
+    // is shown on.
+    void themeTroubled(const QString &inReason);
+
 private:
+    QString loadTheme();
     void installStyle();
     void tellAllWidgets();
 
+    GalleryTheme *mTheme = nullptr;
     QString mAccent;
     int mTextSize = 0;
     Style mStyle = Style::House;

@@ -10,6 +10,8 @@ namespace {
 const QString kPage = QStringLiteral("page");
 const QString kListPages = QStringLiteral("list-pages");
 const QString kAccent = QStringLiteral("accent");
+const QString kTheme = QStringLiteral("theme");
+const QString kAccentFile = QStringLiteral("accent-file");
 const QString kTextSize = QStringLiteral("text-size");
 const QString kScale = QStringLiteral("scale");
 const QString kStyle = QStringLiteral("style");
@@ -38,6 +40,10 @@ void addOptions(QCommandLineParser &ioParser)
         {kContrast, QStringLiteral("Print the contrast ratios of texts on their grounds for the accent.")},
         {kAccent, QStringLiteral("Accent: %1.").arg(accentNames()), QStringLiteral("name"),
          QStringLiteral("blue")},
+        {kTheme, QStringLiteral("Show this theme document and its changes on the disk."),
+         QStringLiteral("file")},
+        {kAccentFile, QStringLiteral("Take the accent from this document; with or without --theme."),
+         QStringLiteral("file")},
         {kTextSize, QStringLiteral("Points added to every text: 0, 2 or 4."), QStringLiteral("points"),
          QStringLiteral("0")},
         {kScale,
@@ -74,6 +80,14 @@ QString readValues(const QCommandLineParser &inParser, GalleryOptions &ioOptions
                      [&](const auto &inAccent) { return ioOptions.accent == QLatin1String(inAccent.name); }))
         return QStringLiteral("no accent is called \"%1\"; the accents are %2")
             .arg(inParser.value(kAccent), accentNames());
+
+    if (inParser.isSet(kAccent) && inParser.isSet(kAccentFile))
+        return QStringLiteral("--accent and --accent-file can't be had together");
+    ioOptions.themeFile = inParser.value(kTheme);
+    ioOptions.accentFile = inParser.value(kAccentFile);
+    if ((inParser.isSet(kTheme) && ioOptions.themeFile.isEmpty()) ||
+        (inParser.isSet(kAccentFile) && ioOptions.accentFile.isEmpty()))
+        return QStringLiteral("an empty name is no theme document");
 
     bool isNumber = false;
     ioOptions.textSize = inParser.value(kTextSize).toInt(&isNumber);

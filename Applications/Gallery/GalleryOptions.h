@@ -18,6 +18,9 @@ struct GalleryOptions
     QString accent = QStringLiteral("blue");
     int textSize = 0;
     double scale = 1.0;
+    // Documents in place of the library's own; empty for those.
+    QString themeFile;
+    QString accentFile;
     GalleryLook::Style style = GalleryLook::Style::House;
     bool enabled = true;
     // File or folder of the screenshots.

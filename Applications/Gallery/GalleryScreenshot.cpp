@@ -1,6 +1,7 @@
 #include "GalleryScreenshot.h"
 
 #include "GalleryOptions.h"
+#include "GalleryPage.h"
 #include "GalleryPages.h"
 #include "GalleryWindow.h"
 #include "WidgetPicture.h"
@@ -14,10 +15,14 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
 
 namespace {
 // Long enough for a busy bar to be well on its way, in milliseconds.
 constexpr int kBusyTime = 700;
+
+// Of a page without a window around it, in pixels.
+constexpr int kPageWidth = 980;
 
 // How long one picture may take on a slow machine, in milliseconds.
 constexpr int kPictureTimeout = 120000;
@@ -27,7 +32,16 @@ QString cannotWrite(const QSaveFile &inFile)
     return QStringLiteral("can't write \"%1\": %2").arg(inFile.fileName(), inFile.errorString());
 }
 
-void waitForBusyBars(GalleryWindow *ioWindow)
+QString save(const QImage &inImage, const QString &inFile)
+{
+    QSaveFile file(inFile);
+    if (!file.open(QIODevice::WriteOnly) ||
+        !inImage.convertToFormat(QImage::Format_RGB32).save(&file, "PNG") || !file.commit())
+        return cannotWrite(file);
+    return QString();
+}
+
+void waitForBusyBars(QWidget *ioWindow)
 {
     const auto bars = ioWindow->findChildren<QProgressBar *>();
     if (std::none_of(bars.begin(), bars.end(),
@@ -48,8 +62,6 @@ QStringList argumentsForOne(const GalleryOptions &inOptions, const QString &inPa
                              inPage,
                              QStringLiteral("--scale"),
                              QString::number(inScale),
-                             QStringLiteral("--accent"),
-                             inOptions.accent,
                              QStringLiteral("--text-size"),
                              QString::number(inOptions.textSize),
                              QStringLiteral("--style"),
@@ -59,6 +71,12 @@ QStringList argumentsForOne(const GalleryOptions &inOptions, const QString &inPa
                              inFile};
     if (!inOptions.enabled)
         arguments << QStringLiteral("--disabled");
+    if (inOptions.accentFile.isEmpty())
+        arguments << QStringLiteral("--accent") << inOptions.accent;
+    if (!inOptions.themeFile.isEmpty())
+        arguments << QStringLiteral("--theme") << inOptions.themeFile;
+    if (!inOptions.accentFile.isEmpty())
+        arguments << QStringLiteral("--accent-file") << inOptions.accentFile;
     return arguments;
 }
 } // namespace
@@ -84,12 +102,20 @@ QString GalleryScreenshot::write(GalleryLook *inLook, const GalleryOptions &inOp
     window.growToPage();
     waitForBusyBars(&window);
 
-    const QImage image =
-        widgetPicture(&window, window.size(), inOptions.scale).convertToFormat(QImage::Format_RGB32);
-    QSaveFile file(inOptions.target);
-    if (!file.open(QIODevice::WriteOnly) || !image.save(&file, "PNG") || !file.commit())
-        return cannotWrite(file);
-    return QString();
+    return save(widgetPicture(&window, window.size(), inOptions.scale), inOptions.target);
+}
+
+QString GalleryScreenshot::writePage(int inPage, const QString &inFile)
+{
+    const std::unique_ptr<GalleryPage> page(GalleryPages::at(inPage).make(nullptr));
+    page->setAttribute(Qt::WA_DontShowOnScreen);
+    page->resize(page->sizeHint().expandedTo(QSize(kPageWidth, 0)));
+    page->show();
+    QApplication::processEvents();
+    if (page->hasHeightForWidth())
+        page->resize(page->width(), page->heightForWidth(page->width()));
+    waitForBusyBars(page.get());
+    return save(widgetPicture(page.get(), page->size(), page->devicePixelRatioF()), inFile);
 }
 
 QString GalleryScreenshot::writeAll(const GalleryOptions &inOptions)

@@ -15,6 +15,9 @@ QString check(const QString &inFile);
 // Writes the page of the options at the scale that the process runs at.
 QString write(GalleryLook *inLook, const GalleryOptions &inOptions);
 
+// Writes a page alone, without sidebar and strip, at the scale that the process runs at.
+QString writePage(int inPage, const QString &inFile);
+
 // Writes NAME.png and NAME@2x.png of every page into the folder of the options, which is made when it isn't
 // there, and prints each file's path. Every picture is taken by a process of its own, since the scale of a
 // process is fixed at its start; this one needs no window system.

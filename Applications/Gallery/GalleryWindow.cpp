@@ -12,6 +12,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
@@ -75,6 +76,13 @@ GalleryWindow::GalleryWindow(GalleryLook *inLook, QWidget *inParent) : QWidget(i
     right->addWidget(makeStrip());
     right->addWidget(makeLine(QFrame::HLine));
     right->addWidget(mStack, 1);
+    mTrouble = new QLabel;
+    mTrouble->setTextFormat(Qt::PlainText);
+    mTrouble->setWordWrap(true);
+    mTrouble->setMargin(kStripMargin);
+    mTrouble->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    mTrouble->hide();
+    right->addWidget(mTrouble);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -84,6 +92,7 @@ GalleryWindow::GalleryWindow(GalleryLook *inLook, QWidget *inParent) : QWidget(i
     layout->addLayout(right, 1);
 
     connect(mLook, &GalleryLook::changed, this, &GalleryWindow::onLookChanged);
+    connect(mLook, &GalleryLook::themeTroubled, this, &GalleryWindow::onThemeTroubled);
     paintAccentIcons();
     showPage(0);
 }
@@ -140,7 +149,8 @@ void GalleryWindow::addAccentButtons(QLayout *ioLayout)
         button->setIconSize(QSize(kDotSize, kDotSize));
         button->setToolTip(name);
         button->setAccessibleName(name);
-        button->setChecked(name == mLook->accent());
+        button->setChecked(name == mLook->accent() && !mLook->hasAccentFile());
+        button->setEnabled(!mLook->hasAccentFile());
         mAccents->addButton(button, index);
         ioLayout->addWidget(button);
     }
@@ -232,6 +242,12 @@ void GalleryWindow::onLookChanged()
         if (auto *page = qobject_cast<GalleryPage *>(area->widget()))
             page->refresh();
     }
+}
+
+void GalleryWindow::onThemeTroubled(const QString &inReason)
+{
+    mTrouble->setText(QStringLiteral("The last good theme is shown. %1").arg(inReason));
+    mTrouble->setVisible(!inReason.isEmpty());
 }
 
 void GalleryWindow::paintAccentIcons()

@@ -11,6 +11,7 @@ class GalleryPage;
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLayout;
 class QListWidget;
 class QScrollArea;
@@ -38,12 +39,15 @@ private:
     void addStyles(QLayout *ioLayout);
     void ensurePage(int inIndex);
     void onLookChanged();
+    void onThemeTroubled(const QString &inReason);
     void paintAccentIcons();
 
     GalleryLook *mLook;
     QListWidget *mSidebar = nullptr;
     QButtonGroup *mAccents = nullptr;
     QCheckBox *mEnabled = nullptr;
+    // Under the page: what is wrong with the theme files; hidden while nothing is.
+    QLabel *mTrouble = nullptr;
     QStackedWidget *mStack = nullptr;
     // A scroll area for each page; its widget is missing until the page is shown.
     QList<QScrollArea *> mAreas;

@@ -1,6 +1,6 @@
 #include "GalleryPage.h"
 
-#include "ContrastTable.h"
+#include "Shared/ContrastTable.h"
 
 #include "Theme/VantraFont.h"
 #include "Theme/VantraStyleTheme.h"

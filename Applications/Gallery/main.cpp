@@ -1,9 +1,9 @@
-#include "ContrastTable.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryScreenshot.h"
+#include "GalleryTheme.h"
 #include "GalleryWindow.h"
-#include "Theme/VantraStyleTheme.h"
+#include "Shared/ContrastTable.h"
 
 #include <QtWidgets/QApplication>
 
@@ -31,7 +31,9 @@ std::optional<int> runWithoutWindows(int inCount, char **inValues, GalleryOption
     case GalleryOptions::Task::Refuse: return refuse(outOptions.text);
     case GalleryOptions::Task::Print: std::fputs(qPrintable(outOptions.text), stdout); return 0;
     case GalleryOptions::Task::Contrast:
-        VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), outOptions.accent);
+        refusal = GalleryTheme(outOptions.themeFile, outOptions.accentFile).load(outOptions.accent);
+        if (!refusal.isEmpty())
+            return refuse(refusal);
         std::fputs(qPrintable(Contrast::table()), stdout);
         return 0;
     case GalleryOptions::Task::AllScreenshots:
@@ -65,11 +67,20 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(VTWIDGETS_VERSION));
 
     GalleryLook look;
-    look.start(options.accent, options.textSize, options.style);
+    look.setThemeFiles(options.themeFile, options.accentFile);
+    const QString trouble = look.start(options.accent, options.textSize, options.style);
+    if (!trouble.isEmpty())
+        return refuse(trouble);
     if (!wantsWindow) {
         const QString refusal = GalleryScreenshot::write(&look, options);
         return refusal.isEmpty() ? 0 : refuse(refusal);
     }
+
+    QObject::connect(&look, &GalleryLook::themeTroubled, [](const QString &inReason) {
+        if (!inReason.isEmpty())
+            std::fprintf(stderr, "vtwidgets-gallery: %s\n", qPrintable(inReason));
+    });
+    look.followThemeFiles();
 
     GalleryWindow window(&look);
     window.setPagesEnabled(options.enabled);

@@ -1,4 +1,4 @@
-#include "../../Applications/Gallery/ContrastTable.h"
+#include "../../Applications/Shared/ContrastTable.h"
 #include "Theme/VantraFont.h"
 
 #include <QtCore/QDir>

@@ -24,4 +24,8 @@ c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$work/headers.cpp" "${flags[
 [[ -n $(find "$work/moved/share/doc" -name '*font-awesome*') ]] ||
     { echo "install_and_use: the fonts' licences are missing" >&2; exit 1; }
 QT_QPA_PLATFORM=offscreen "$work/moved/bin/vtwidgets-gallery" --list-pages >/dev/null
+[[ -f $work/moved/share/VTWidgetsLite/theme.schema.json ]]
+if [[ -x $build/bin/vtwidgets-theme ]]; then
+    "$work/moved/bin/vtwidgets-theme" list >/dev/null
+fi
 bash "$here/use_prefix.sh" "$work/moved" "$here/consumer"

@@ -240,6 +240,9 @@ public:
                             bool inUseLargestFont) const;
 
 private:
+    // Programs for writing themes try out documents that are no resources.
+    friend class VantraThemeTrial;
+
     void saveConfigImpl(const QString &inPath) const;
     bool mergeConfigImpl(QJsonObject &ioFirst, QJsonObject &inSecond) const;
 

@@ -3,7 +3,7 @@
 // How well the theme's texts stand out from their grounds: the contrast ratio of the Web Content
 // Accessibility Guidelines for every pair of roles that is painted as text on ground.
 
-#include "Theme/VantraPalette.h"
+#include "Theme/VantraColorPalette.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -64,7 +64,11 @@ struct Colors
     double ratio() const { return Contrast::ratio(text, ground); }
 };
 
-// Nothing when the theme lacks one of the two.
+// Nothing when the palette lacks one of the two.
+std::optional<Colors> colorsOf(const VantraColorPalette &inPalette, const Pair &inPair,
+                               VantraPalette::PaletteGroup inGroup);
+
+// The same for the theme that is loaded.
 std::optional<Colors> colorsOf(const Pair &inPair, VantraPalette::PaletteGroup inGroup);
 
 // The whole table in lines, for the theme that is loaded.

@@ -1,4 +1,4 @@
-#include "ContrastTable.h"
+#include "Shared/ContrastTable.h"
 
 #include "Theme/VantraStyleTheme.h"
 
@@ -7,11 +7,12 @@
 namespace {
 // Where translucent grounds are looked at: menus over the picture, which may be anything, and what has no
 // ground of its own on the window.
-QColor whatLiesBelow(VantraPalette::PaletteRole inGround, VantraPalette::PaletteGroup inGroup)
+QColor whatLiesBelow(const VantraColorPalette &inPalette, VantraPalette::PaletteRole inGround,
+                     VantraPalette::PaletteGroup inGroup)
 {
     if (inGround == VantraPalette::OverlayMenuBackground)
         return QColor(128, 128, 128);
-    return VantraStyleTheme::instance().colorPalette().color(inGroup, VantraPalette::WindowBackground);
+    return inPalette.color(inGroup, VantraPalette::WindowBackground);
 }
 } // namespace
 
@@ -61,17 +62,22 @@ QString Contrast::nameOf(const Pair &inPair)
 
 std::optional<Contrast::Colors> Contrast::colorsOf(const Pair &inPair, VantraPalette::PaletteGroup inGroup)
 {
-    const VantraColorPalette &palette = VantraStyleTheme::instance().colorPalette();
+    return colorsOf(VantraStyleTheme::instance().colorPalette(), inPair, inGroup);
+}
+
+std::optional<Contrast::Colors> Contrast::colorsOf(const VantraColorPalette &inPalette, const Pair &inPair,
+                                                   VantraPalette::PaletteGroup inGroup)
+{
     // The window knows no hover: what lies on it is highlighted alone.
     const VantraPalette::PaletteGroup windowGroup =
         inGroup == VantraPalette::Disabled ? VantraPalette::Disabled : VantraPalette::Normal;
     const VantraPalette::PaletteGroup groundGroup =
         inPair.ground == VantraPalette::WindowBackground ? windowGroup : inGroup;
-    if (!palette.contains(inGroup, inPair.text) || !palette.contains(groundGroup, inPair.ground))
+    if (!inPalette.contains(inGroup, inPair.text) || !inPalette.contains(groundGroup, inPair.ground))
         return std::nullopt;
-    const QColor ground =
-        over(palette.color(groundGroup, inPair.ground), whatLiesBelow(inPair.ground, windowGroup));
-    return Colors{over(palette.color(inGroup, inPair.text), ground), ground};
+    const QColor ground = over(inPalette.color(groundGroup, inPair.ground),
+                               whatLiesBelow(inPalette, inPair.ground, windowGroup));
+    return Colors{over(inPalette.color(inGroup, inPair.text), ground), ground};
 }
 
 QString Contrast::table()
