@@ -21,9 +21,9 @@
 
 // Counts of rounds are divided by this: the thread sanitizer makes everything slower.
 #if defined(__SANITIZE_THREAD__)
-static constexpr int kEase = 20;
+static constexpr int kEase = 2;
 #elif defined(__SANITIZE_ADDRESS__)
-static constexpr int kEase = 4;
+static constexpr int kEase = 2;
 #else
 static constexpr int kEase = 1;
 #endif
