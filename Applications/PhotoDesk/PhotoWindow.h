@@ -49,7 +49,9 @@ private:
     void makeSettingsMenu(VantraMenuBar *ioBar);
     VantraMenu *addMenu(VantraMenuBar *ioBar, const QString &inTitle);
     VantraFrame *makeToolBar();
-    VantraToolButton *addTool(VantraFrame *ioBar, const QString &inName, const QString &inText, int inKey);
+    VantraToolButton *addTool(VantraFrame *ioBar, const QString &inName, int inKey);
+    VantraToolButton *addViewTool(VantraFrame *ioBar, const QString &inName, const char *inTip,
+                                  const QString &inText, int inKey);
     void fillRecentMenu(VantraMenu *ioMenu);
 
     void makeList();

@@ -151,23 +151,29 @@ void PhotoWindow::makeSettingsMenu(VantraMenuBar *ioBar)
     }
 }
 
-VantraToolButton *PhotoWindow::addTool(VantraFrame *ioBar, const QString &inName, const QString &inText,
-                                       int inKey)
+VantraToolButton *PhotoWindow::addTool(VantraFrame *ioBar, const QString &inName, int inKey)
 {
     auto *button = new VantraToolButton(ioBar);
-    button->setObjectName(inName);
     button->setToolName(inName);
     button->setAccessibleName(inName);
     if (inKey != 0)
         button->setShortcut(QKeySequence(inKey));
     else
         button->setToolTip(inName);
-    if (!inText.isEmpty()) {
-        button->setToolTipImage(QStringLiteral(":/PhotoDesk/ToolTips/%1.gif").arg(inName.toLower()));
-        button->setToolTipDetailed(inText);
-        button->setToolTipDirection(VantraToolButton::ToolTipDirectionBelow);
-    }
     ioBar->layout()->addWidget(button);
+    return button;
+}
+
+// A tool that stays on, with a rich tip.
+VantraToolButton *PhotoWindow::addViewTool(VantraFrame *ioBar, const QString &inName, const char *inTip,
+                                           const QString &inText, int inKey)
+{
+    VantraToolButton *button = addTool(ioBar, inName, inKey);
+    button->setObjectName(QLatin1String(inTip));
+    button->setToolTipImage(QStringLiteral(":/PhotoDesk/ToolTips/%1.gif").arg(QLatin1String(inTip)));
+    button->setToolTipDetailed(inText);
+    button->setToolTipUrl(QStringLiteral("https://doc.qt.io/qt-6/qimage.html"));
+    button->setToolTipDirection(VantraToolButton::ToolTipDirectionBelow);
     return button;
 }
 
@@ -181,7 +187,7 @@ VantraFrame *PhotoWindow::makeToolBar()
     layout->setSpacing(4);
     // Buttons that do something at once, and then those that stay on.
     const auto addDoing = [&](const QString &inName, const QImage &inImage, int inKey, auto inDo) {
-        VantraToolButton *button = addTool(bar, inName, {}, inKey);
+        VantraToolButton *button = addTool(bar, inName, inKey);
         button->initOnOffStyle(inImage, VantraIconPalette::IconTintingForeground);
         button->setCheckable(false);
         button->setFixedSize(kToolSize);
@@ -194,24 +200,24 @@ VantraFrame *PhotoWindow::makeToolBar()
     addDoing(tr("Rotate right"), Icons::turnRight(), Qt::Key_R, [this] { turn(1); });
     layout->addSpacing(12);
     mCropButton =
-        addTool(bar, tr("Crop"),
-                tr("Drag the frame's corners and sides. <b>Return</b> cuts the photo, <b>Escape</b> "
-                   "leaves it as it was. What lies outside isn't lost."),
-                Qt::Key_C);
+        addViewTool(bar, tr("Crop"), "crop",
+                    tr("Drag the frame's corners and sides. <b>Return</b> cuts the photo, <b>Escape</b> "
+                       "leaves it as it was. What lies outside isn't lost."),
+                    Qt::Key_C);
     mCropButton->initOnOffStyle(Icons::crop(), VantraIconPalette::IconTintingOnAlternateOffForeground);
     connect(mCropButton, &VantraToolButton::clicked, this,
             [this](bool inOn) { inOn ? mCanvas->beginCrop() : mCanvas->endCrop(true); });
     connect(mCanvas, &PhotoCanvas::croppingChanged, mCropButton, &QAbstractButton::setChecked);
-    VantraToolButton *compare =
-        addTool(bar, tr("Compare"),
-                tr("Shows the photo as it came beside what you have made of it. Drag the line."), Qt::Key_B);
+    VantraToolButton *compare = addViewTool(
+        bar, tr("Before and after"), "compare",
+        tr("Shows the photo as it came beside what you have made of it. Drag the line."), Qt::Key_B);
     compare->setButtonImage(VantraToolButton::DualModeImage);
     connect(compare, &VantraToolButton::toggled, mCanvas, &PhotoCanvas::setBeforeAfter);
-    VantraToolButton *inspect =
-        addTool(bar, tr("Inspect"),
-                tr("Marks what has lost its detail: <b>red</b> where highlights are all white, <b>blue</b> "
-                   "where shadows are all black."),
-                Qt::Key_M);
+    VantraToolButton *inspect = addViewTool(
+        bar, tr("Inspect clipping"), "inspect",
+        tr("Marks what has lost its detail: <b>red</b> where highlights are all white, <b>blue</b> "
+           "where shadows are all black."),
+        Qt::Key_M);
     inspect->setButtonImage(VantraToolButton::MaskInspectView);
     connect(inspect, &VantraToolButton::toggled, mCanvas, &PhotoCanvas::setClippingShown);
     for (VantraToolButton *button : {mCropButton, compare, inspect})

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws the gallery's two animated tool tips and writes them beside this script.
+"""Draws the programs' animated tool tips and writes them beside this script.
 
     python3 Applications/ToolTips/make_tips.py
 
@@ -123,6 +123,30 @@ def crop_frames(photograph):
     return frames
 
 
+def compare_frames(photograph):
+    """A line goes to and fro between the photograph and a brighter, warmer form of it."""
+    steps = 34
+    after = [[tuple(min(255.0, channel * gain) for channel, gain in zip(pixel, (1.45, 1.25, 1.0)))
+              for pixel in row] for row in photograph]
+    frames = []
+    for step in range(steps):
+        line = 320 + 2 * int(90 * math.sin(step / steps * 2 * math.pi))
+        image = [before[:line] + changed[line:] for before, changed in zip(photograph, after)]
+        box(image, line - 2, 0, line + 2, HEIGHT, WHITE)
+        disc(image, (line, HEIGHT // 2), 11, WHITE)
+        frames.append((image, FRAME_TIME * (6 if step == 0 else 1)))
+    return frames
+
+
+def inspect_frames(photograph):
+    """The sun's light and the nearest hills' shadow are marked, again and again."""
+    marked = []
+    for row in photograph:
+        marked.append([(255, 50, 50) if sum(pixel) > 590 else (60, 110, 255) if sum(pixel) < 125 else pixel
+                       for pixel in row])
+    return [(photograph, FRAME_TIME * 12), (marked, FRAME_TIME * 16)]
+
+
 def crop_handles(image, left, top, right, bottom):
     line, corner, reach = 2, 6, 30
     for third in (1, 2):
@@ -244,6 +268,8 @@ def main():
     photograph = landscape()
     write(folder / "brush@2x.gif", brush_frames(photograph))
     write(folder / "crop@2x.gif", crop_frames(photograph))
+    write(folder / "compare@2x.gif", compare_frames(photograph))
+    write(folder / "inspect@2x.gif", inspect_frames(photograph))
 
 
 if __name__ == "__main__":

@@ -33,7 +33,7 @@ refuses '"--tyr"' package --tyr
 refuses '"soon"' fuzz soon
 
 "$run" help >"$work/help" || fail "run help failed"
-for command in gallery test bench check-windows package format fuzz; do
+for command in gallery photodesk test bench check-windows package format fuzz; do
     grep -q "^\./run $command" "$work/help" || fail "run help does not name $command"
 done
 
