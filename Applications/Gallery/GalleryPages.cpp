@@ -27,7 +27,6 @@ GalleryPage *makeSortingPage(QWidget *inParent);
 GalleryPage *makeMainWindowPage(QWidget *inParent);
 GalleryPage *makeMessageBoxesPage(QWidget *inParent);
 GalleryPage *makeProgressPage(QWidget *inParent);
-GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
@@ -52,7 +51,6 @@ constexpr GalleryPageEntry kPages[] = {
     {"main-window", "Main window", &makeMainWindowPage},
     {"message-boxes", "Message boxes", &makeMessageBoxesPage},
     {"progress", "Progress", &makeProgressPage},
-    {"metrics", "Metrics", &makeMetricsPage},
     {"palette", QT_TRANSLATE_NOOP("GalleryPages", "Palette"), &makePalettePage},
     {"type", QT_TRANSLATE_NOOP("GalleryPages", "Type"), &makeTypePage},
     {"icons-and-tinting", QT_TRANSLATE_NOOP("GalleryPages", "Icons and tinting"), &makeIconsPage},
