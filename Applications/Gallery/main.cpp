@@ -27,20 +27,20 @@ std::optional<int> runWithoutWindows(int inCount, char **inValues, GalleryOption
 {
     QCoreApplication application(inCount, inValues);
     outOptions = GalleryOptions::fromArguments(QCoreApplication::arguments());
-    QString refusal;
+    const bool isRefused = outOptions.task == GalleryOptions::Task::Refuse;
+    QString refusal = isRefused
+                          ? outOptions.text
+                          : GalleryTheme(outOptions.themeFile, outOptions.accentFile).load(outOptions.accent);
+    if (!refusal.isEmpty())
+        return refuse(refusal);
     switch (outOptions.task) {
-    case GalleryOptions::Task::Refuse: return refuse(outOptions.text);
     case GalleryOptions::Task::Print: std::fputs(qPrintable(outOptions.text), stdout); return 0;
-    case GalleryOptions::Task::Contrast:
-        refusal = GalleryTheme(outOptions.themeFile, outOptions.accentFile).load(outOptions.accent);
-        if (!refusal.isEmpty())
-            return refuse(refusal);
-        std::fputs(qPrintable(Contrast::table()), stdout);
-        return 0;
+    case GalleryOptions::Task::Contrast: std::fputs(qPrintable(Contrast::table()), stdout); return 0;
     case GalleryOptions::Task::AllScreenshots:
         refusal = GalleryScreenshot::writeAll(outOptions);
         return refusal.isEmpty() ? 0 : refuse(refusal);
     case GalleryOptions::Task::Screenshot: refusal = GalleryScreenshot::check(outOptions.target); break;
+    case GalleryOptions::Task::Refuse:
     case GalleryOptions::Task::ShowWindow: break;
     }
     if (!refusal.isEmpty())

@@ -14,6 +14,12 @@ QColor whatLiesBelow(const VantraColorPalette &inPalette, VantraPalette::Palette
         return QColor(128, 128, 128);
     return inPalette.color(inGroup, VantraPalette::WindowBackground);
 }
+
+// The window knows no hover: what lies on it is highlighted alone.
+VantraPalette::PaletteGroup windowGroup(VantraPalette::PaletteGroup inGroup)
+{
+    return inGroup == VantraPalette::Disabled ? VantraPalette::Disabled : VantraPalette::Normal;
+}
 } // namespace
 
 const QList<Contrast::Pair> &Contrast::pairs()
@@ -60,6 +66,11 @@ QString Contrast::nameOf(const Pair &inPair)
         .arg(QLatin1String(roles.valueToKey(inPair.text)), QLatin1String(roles.valueToKey(inPair.ground)));
 }
 
+VantraPalette::PaletteGroup Contrast::groundGroup(const Pair &inPair, VantraPalette::PaletteGroup inGroup)
+{
+    return inPair.ground == VantraPalette::WindowBackground ? windowGroup(inGroup) : inGroup;
+}
+
 std::optional<Contrast::Colors> Contrast::colorsOf(const Pair &inPair, VantraPalette::PaletteGroup inGroup)
 {
     return colorsOf(VantraStyleTheme::instance().colorPalette(), inPair, inGroup);
@@ -68,15 +79,11 @@ std::optional<Contrast::Colors> Contrast::colorsOf(const Pair &inPair, VantraPal
 std::optional<Contrast::Colors> Contrast::colorsOf(const VantraColorPalette &inPalette, const Pair &inPair,
                                                    VantraPalette::PaletteGroup inGroup)
 {
-    // The window knows no hover: what lies on it is highlighted alone.
-    const VantraPalette::PaletteGroup windowGroup =
-        inGroup == VantraPalette::Disabled ? VantraPalette::Disabled : VantraPalette::Normal;
-    const VantraPalette::PaletteGroup groundGroup =
-        inPair.ground == VantraPalette::WindowBackground ? windowGroup : inGroup;
+    const VantraPalette::PaletteGroup groundGroup = Contrast::groundGroup(inPair, inGroup);
     if (!inPalette.contains(inGroup, inPair.text) || !inPalette.contains(groundGroup, inPair.ground))
         return std::nullopt;
     const QColor ground = over(inPalette.color(groundGroup, inPair.ground),
-                               whatLiesBelow(inPalette, inPair.ground, windowGroup));
+                               whatLiesBelow(inPalette, inPair.ground, windowGroup(inGroup)));
     return Colors{over(inPalette.color(inGroup, inPair.text), ground), ground};
 }
 

@@ -64,6 +64,9 @@ struct Colors
     double ratio() const { return Contrast::ratio(text, ground); }
 };
 
+// The group that the ground is painted in while the text is in the given one.
+VantraPalette::PaletteGroup groundGroup(const Pair &inPair, VantraPalette::PaletteGroup inGroup);
+
 // Nothing when the palette lacks one of the two.
 std::optional<Colors> colorsOf(const VantraColorPalette &inPalette, const Pair &inPair,
                                VantraPalette::PaletteGroup inGroup);

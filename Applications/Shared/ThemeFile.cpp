@@ -38,7 +38,7 @@ QString ThemeFile::stockPath(const QString &inName)
 
 QString ThemeFile::prefix(TextPosition inPosition) const
 {
-    return QStringLiteral("%1:%2:%3: ").arg(path).arg(inPosition.line).arg(inPosition.column);
+    return path + QStringLiteral(":%1:%2: ").arg(inPosition.line).arg(inPosition.column);
 }
 
 QString ThemeFile::trouble() const

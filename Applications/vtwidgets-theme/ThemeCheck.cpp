@@ -119,8 +119,7 @@ private:
         for (const JsonText::Duplicate &duplicate : text.duplicates())
             add(inFile, duplicate.second,
                 QStringLiteral("the key \"%1\" stands here again; its value in line %2 is lost")
-                    .arg(duplicate.key)
-                    .arg(duplicate.first.line));
+                    .arg(duplicate.key, QString::number(duplicate.first.line)));
         const QList<ShapeFault> faults = shapeFaults(text);
         for (const ShapeFault &fault : faults)
             add(inFile, fault.atKey ? text.positionOfKey(fault.pointer) : text.positionOf(fault.pointer),
@@ -300,10 +299,13 @@ private:
                 if (!colors || colors->ratio() >= Contrast::kEnough)
                     continue;
                 const Entry entry = mColors.value({group, pair.text});
-                const QString message = QStringLiteral("%1 in group %2 has a contrast of %3, below %4")
-                                            .arg(Contrast::nameOf(pair), wordOf(group))
-                                            .arg(colors->ratio(), 0, 'f', 2)
-                                            .arg(Contrast::kEnough);
+                const Entry ground = mColors.value({Contrast::groundGroup(pair, group), pair.ground});
+                const QString message =
+                    QStringLiteral("%1 in group %2 has a contrast of %3, below %4; the ground stands in %5")
+                        .arg(Contrast::nameOf(pair), wordOf(group))
+                        .arg(colors->ratio(), 0, 'f', 2)
+                        .arg(Contrast::kEnough)
+                        .arg(lineOf(ground, entry.file));
                 const QString reason = reasonFor(pair, group, *colors);
                 const QString pointer = entry.pointer + QLatin1String("/color");
                 if (reason.isEmpty())

@@ -128,6 +128,8 @@ private slots:
         row("accent", {QStringLiteral("--accent"), QStringLiteral("mauve")});
         row("text size that is no step", {QStringLiteral("--text-size"), QStringLiteral("3")});
         row("text size that is no number", {QStringLiteral("--text-size"), QStringLiteral("large")});
+        row("theme that isn't there", {QStringLiteral("--theme"), nowhere});
+        row("accent that is no JSON", {QStringLiteral("--accent-file"), file});
         row("scale 0", {QStringLiteral("--scale"), QStringLiteral("0")});
         row("scale nan", {QStringLiteral("--scale"), QStringLiteral("nan")});
         row("language", {QStringLiteral("--language"), QStringLiteral("tlh")});

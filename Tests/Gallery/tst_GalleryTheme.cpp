@@ -5,6 +5,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QSaveFile>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -79,14 +80,22 @@ private slots:
     void followsAFileThatIsReplaced()
     {
         for (const int level : {50, 60}) {
-            const QString other = mFolder.filePath(QStringLiteral("theme.json.new"));
-            write(other, baseWithText(qPrintable(QStringLiteral("[ %1, 0, 0 ]").arg(level))));
-            // QFile::rename doesn't replace.
-            QVERIFY(QFile::remove(mTheme));
-            QTest::qWait(level == 50 ? 0 : 300);
-            QVERIFY(QFile::rename(other, mTheme));
+            QSaveFile file(mTheme);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(baseWithText(qPrintable(QStringLiteral("[ %1, 0, 0 ]").arg(level))));
+            QVERIFY(file.commit());
             QTRY_COMPARE(text(), QColor(level, 0, 0));
         }
+    }
+
+    void followsAFileThatIsAwayForAWhile()
+    {
+        QSignalSpy troubled(&mLook, &GalleryLook::themeTroubled);
+        QVERIFY(QFile::remove(mTheme));
+        QTRY_COMPARE(troubled.size(), 1);
+        QVERIFY(troubled.at(0).at(0).toString().contains(mTheme));
+        write(mTheme, baseWithText("[ 70, 0, 0 ]"));
+        QTRY_COMPARE(text(), QColor(70, 0, 0));
     }
 
     void keepsTheLastGoodThemeAndSaysSo_data()

@@ -23,7 +23,7 @@ const char kAccentFile[] = "accent.json";
 
 QByteArray stock(const QString &inName)
 {
-    QFile file(QStringLiteral(":/VTWidgets/Themes/%1.json").arg(inName));
+    QFile file(QStringLiteral(THEMES_FOLDER "/%1.json").arg(inName));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -108,7 +108,7 @@ private slots:
              R"(¦"normal", "color": "PaneHeaderText" },
         { "role": "ListPaneHeaderText")",
              {"unknown palette group \"normal\"; did you mean \"Normal\"?",
-              "PaneHeaderText has no colour in group Normal and would be painted red"});
+              "ListPaneHeaderText has no colour in group Normal and would be painted red"});
         base("alias", R"("Accent", "group": "Normal", "color": "AccentColor")",
              R"("Accent", "group": "Normal", "color": ¦"AcentColor")",
              {"unknown alias \"AcentColor\"; did you mean \"AccentColor\"?"});
@@ -169,7 +169,7 @@ private slots:
              R"({ "role": "MenuItemText", "group": "Normal", "size": 12, "weight": "Normal" })",
              R"(¦{ "role": "MenuItemText", "group": "Normal", "size": 13, "weight": "Black" },
                 { "role": "MenuItemText", "group": "Normal", "size": 12, "weight": "Normal" })",
-             {"the entry of MenuItemText in group Normal is overridden by a later one in line 225"});
+             {"the entry of MenuItemText in group Normal is overridden by a later one in line 227"});
         base("alias shadowed by the accent", R"("ScrollBarColor": [ 81, 81, 81 ])",
              R"("ScrollBarColor": [ 81, 81, 81 ], ¦"AccentColor": [ 1, 2, 3 ])",
              {"the alias \"AccentColor\" is replaced by that in line 3 of accent.json"});
@@ -189,22 +189,25 @@ private slots:
              R"({ "role": "CategoryViewItemBackground", "group": "Normal", "color": "BackgroundColor" },
         )",
              "¦", {"CategoryViewItemBackground has no colour in group Normal and would be painted red"});
-        base(
-            "dim text", R"("ViewItemText", "group": "Normal", "color": "TextColor")",
-            R"("ViewItemText", "group": "Normal", "color": ¦[ 110, 110, 110 ])",
-            {"ViewItemText on CategoryViewItemBackground in group Normal has a contrast of 3.04, below 4.5"});
-        accent("dim accent", "[ 4, 122, 255 ]", "[ 0, 90, 200 ]",
-               {"ModuleToolButtonText on WindowBackground in group Highlighted has a contrast of 2.50, below "
-                "4.5"});
+        base("dim text", R"("ViewItemText", "group": "Normal", "color": "TextColor")",
+             R"("ViewItemText", "group": "Normal", "color": ¦[ 110, 110, 110 ])",
+             {"ViewItemText on CategoryViewItemBackground in group Normal has a contrast of 3.04, below 4.5; "
+              "the ground stands in line 76"});
+        accent("dim text of the accent", R"("color_aliases")",
+               R"("color_palette": [ { "role": "ButtonText", "group": "Normal", "color": ¦[ 60, 60, 60 ] } ],
+                "color_aliases")",
+               {"ButtonText on ButtonBackground in group Normal has a contrast of 1.54, below 4.5; the "
+                "ground stands in line 25 of theme.json"});
 
         // Syntax, which is all that is told of a document that has it wrong.
-        accent("comma missing", "[ 4, 122, 255 ],", "[ 4, 122, 255 ]", {"a comma or \"}\" is expected here"});
+        accent("comma missing", "[ 4, 122, 255 ],\n        \"", "[ 4, 122, 255 ]\n        ¦\"",
+               {"a comma or \"}\" is expected here"});
         accent("comma too many", "[ 122, 127, 131 ]\n    }", "[ 122, 127, 131 ],\n    ¦}",
                {"a comma stands before this \"}\", but nothing follows it"});
         accent("comment", "[ 4, 122, 255 ],", "[ 4, 122, 255 ], ¦// blue",
                {"JSON has no comments; a key in double quotes is expected here"});
-        base("behind tabs, letters of two bytes and lines of another system", R"("TransparentColor")",
-             "\t\"ÄÖ\": [ 1, 2, 3 ], \"A\\u0042\": ¦[ 1 ],\r\n\"TransparentColor\"",
+        base("behind tabs, letters of two bytes and lines of another system", R"("TransparentColor": [)",
+             "\t\"ÄÖ\": [ 1, 2, 3 ], \"A\\u0042\": ¦[ 1 ],\r\n\"TransparentColor\": [",
              {"a colour has 3 or 4 components, this one has 1; it is read as a grey"});
     }
 
@@ -224,8 +227,7 @@ private slots:
                      qPrintable(faults.join(QLatin1Char('\n'))));
 
         const qsizetype mark = replacement.indexOf("¦");
-        if (mark < 0)
-            return;
+        QVERIFY(mark >= 0);
         const QByteArray text = stock(inAccent ? QStringLiteral("blue") : QStringLiteral("base"));
         const QString before = QString::fromUtf8(text.left(text.indexOf(piece)) + replacement.left(mark));
         const QString place = QStringLiteral("%1:%2:%3: ")
@@ -292,7 +294,7 @@ private slots:
     // Editors complete from the schema what the program lists.
     void theSchemaKnowsAllWords()
     {
-        QFile file(QStringLiteral(THEME_SCHEMA));
+        QFile file(QStringLiteral(THEMES_FOLDER "/theme.schema.json"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString schema = QString::fromUtf8(file.readAll());
         const QStringList lines = run({QStringLiteral("list")}).out;
@@ -328,7 +330,7 @@ private slots:
         row("picture that would be the accent", "preview theme.json accent.json", "\"accent.json\"");
         row("picture in no folder", "preview theme.json no/such/folder.png", "no/such/folder.png");
         row("preview of no file", "preview none.json out.png", "none.json");
-        row("preview of damage", "preview damaged.json out.png", "damaged.json:1:14: ");
+        row("preview of damage", "preview damaged.json out.png", "damaged.json:1:13: ");
     }
 
     void refusesInOneLine()
