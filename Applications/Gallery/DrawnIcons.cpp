@@ -102,6 +102,37 @@ QIcon DrawnIcons::crop(const QColor &inColor)
     });
 }
 
+QIcon DrawnIcons::application()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 64, 128, 256}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(size / 32.0, size / 32.0);
+        QLinearGradient plate(0, 0, 0, 32);
+        plate.setColorAt(0, QColor(86, 104, 190));
+        plate.setColorAt(1, QColor(44, 52, 110));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(plate);
+        painter.drawRoundedRect(QRectF(1, 1, 30, 30), 7, 7);
+        painter.setBrush(QColor(255, 214, 140));
+        painter.drawEllipse(QPointF(11, 11), 3.2, 3.2);
+        QPainterPath hills(QPointF(4, 26));
+        hills.lineTo(12, 17);
+        hills.lineTo(16, 21);
+        hills.lineTo(21, 14);
+        hills.lineTo(28, 26);
+        hills.closeSubpath();
+        painter.setBrush(QColor(235, 238, 250));
+        painter.drawPath(hills);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 QIcon DrawnIcons::dot(int inSize, const QColor &inColor)
 {
     QIcon icon;

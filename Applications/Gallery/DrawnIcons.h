@@ -16,6 +16,9 @@ QIcon adjust(const QColor &inColor = Qt::gray);
 QIcon brush(const QColor &inColor = Qt::gray);
 QIcon crop(const QColor &inColor = Qt::gray);
 
+// The gallery's own, in colours: the landscape on a plate.
+QIcon application();
+
 // A filled circle of a diameter in logical pixels.
 QIcon dot(int inSize, const QColor &inColor);
 

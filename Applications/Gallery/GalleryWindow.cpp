@@ -1,10 +1,10 @@
 #include "GalleryWindow.h"
 
+#include "AiryDelegate.h"
 #include "DrawnIcons.h"
 #include "GalleryLook.h"
 #include "GalleryPage.h"
 #include "GalleryPages.h"
-#include "StyleOptions/VantraStyleOptionViewItem.h"
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtWidgets/QApplication>
@@ -17,7 +17,6 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStackedWidget>
-#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolButton>
 
 namespace {
@@ -25,28 +24,6 @@ constexpr int kSidebarWidth = 204;
 constexpr int kStripMargin = 12;
 constexpr int kDotSize = 18;
 constexpr QSize kDefaultSize(1240, 820);
-
-// Gives the sidebar's rows air: the house style indents a row only when its option asks for that.
-class SidebarDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *ioPainter, const QStyleOptionViewItem &inOption,
-               const QModelIndex &inIndex) const override
-    {
-        VantraStyleOptionViewItem option;
-        static_cast<QStyleOptionViewItem &>(option) = inOption;
-        initStyleOption(&option, inIndex);
-        option.useIndent = true;
-        option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &option, ioPainter, option.widget);
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem &inOption, const QModelIndex &inIndex) const override
-    {
-        return QStyledItemDelegate::sizeHint(inOption, inIndex).grownBy({0, 4, 0, 4});
-    }
-};
 
 QFrame *makeLine(QFrame::Shape inShape)
 {
@@ -57,7 +34,8 @@ QFrame *makeLine(QFrame::Shape inShape)
 }
 } // namespace
 
-GalleryWindow::GalleryWindow(GalleryLook *inLook, QWidget *inParent) : QWidget(inParent), mLook(inLook)
+GalleryWindow::GalleryWindow(GalleryLook *inLook, QWidget *inParent)
+    : VantraMainWindow(inParent), mLook(inLook)
 {
     setWindowTitle(tr("VTWidgetsLite gallery"));
     resize(kDefaultSize);
@@ -84,7 +62,7 @@ GalleryWindow::GalleryWindow(GalleryLook *inLook, QWidget *inParent) : QWidget(i
     mTrouble->hide();
     right->addWidget(mTrouble);
 
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new QHBoxLayout(centralWidget());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeSidebar());
@@ -104,7 +82,7 @@ QWidget *GalleryWindow::makeSidebar()
     mSidebar->setFixedWidth(kSidebarWidth);
     mSidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     mSidebar->setAccessibleName(tr("Pages"));
-    mSidebar->setItemDelegate(new SidebarDelegate(mSidebar));
+    mSidebar->setItemDelegate(new AiryDelegate(mSidebar));
     for (int index = 0; index < GalleryPages::count(); ++index)
         mSidebar->addItem(GalleryPages::title(index));
     connect(mSidebar, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);

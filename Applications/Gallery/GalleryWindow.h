@@ -3,8 +3,9 @@
 // The gallery's window: pages at the left, what they look like above, the page itself in the rest. Pages are
 // made when they are first shown.
 
+#include "Window/VantraMainWindow.h"
+
 #include <QtCore/QList>
-#include <QtWidgets/QWidget>
 
 class GalleryLook;
 class GalleryPage;
@@ -17,7 +18,7 @@ class QListWidget;
 class QScrollArea;
 class QStackedWidget;
 
-class GalleryWindow : public QWidget
+class GalleryWindow : public VantraMainWindow
 {
     Q_OBJECT
 

@@ -1,3 +1,4 @@
+#include "DrawnIcons.h"
 #include "GalleryLanguage.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
@@ -6,6 +7,8 @@
 #include "GalleryWindow.h"
 #include "Shared/ContrastTable.h"
 
+#include <QtCore/QLocale>
+#include <QtCore/QTemporaryFile>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -47,6 +50,24 @@ std::optional<int> runWithoutWindows(int inCount, char **inValues, GalleryOption
         return refuse(refusal);
     return std::nullopt;
 }
+
+// For pictures without a window system. Its own screen is 800 pixels wide, too little for dialogs at a scale
+// of
+// 2. The file describes the screen and is read when the application starts.
+void takeLargeScreen(QTemporaryFile &ioFile)
+{
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && platform != "offscreen")
+        return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A colon ends the path for Qt.
+    if (ioFile.open() && !ioFile.fileName().contains(QLatin1Char(':'))) {
+        ioFile.write(R"({"screens": [{"name": "Large", "x": 0, "y": 0, "width": 3840, "height": 2400,)"
+                     R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        ioFile.close();
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(ioFile.fileName()));
+    }
+}
 } // namespace
 
 int main(int argc, char **argv)
@@ -56,8 +77,9 @@ int main(int argc, char **argv)
         return *exitCode;
 
     const bool wantsWindow = options.task == GalleryOptions::Task::ShowWindow;
-    if (!wantsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryFile screen;
+    if (!wantsWindow)
+        takeLargeScreen(screen);
     if (options.scale != 1.0)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
 
@@ -66,6 +88,10 @@ int main(int argc, char **argv)
     QApplication application(guiArgumentCount, argv);
     QApplication::setApplicationName(QStringLiteral("vtwidgets-gallery"));
     QApplication::setApplicationVersion(QStringLiteral(VTWIDGETS_VERSION));
+    // Without a locale, as on build machines, nothing would be sorted as a person expects.
+    if (QLocale().language() == QLocale::C)
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QApplication::setWindowIcon(DrawnIcons::application());
 
     GalleryLanguage::install(options.language);
     GalleryLook look;
