@@ -1,5 +1,7 @@
 // Benchmarks of theme, style and window. Most figures are paired with a reference in the same run: Fusion
 // painting the same element, or the bare call.
+// Benchmarks of the theme, the style and the progress calls. Every figure of the style is paired with a
+// reference in the same run: Fusion painting the same element, or the bare call.
 //
 //     ./run bench                                  all of them
 //     ./run bench --benchmark_filter=PushButton    some
@@ -64,6 +66,7 @@ int main(int argc, char **argv)
     Bench::registerWhole();
     Bench::registerControls();
     Bench::registerWindow();
+    Bench::registerProgress();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -46,6 +46,7 @@ constexpr GalleryPageEntry kPages[] = {
 GalleryPage *makeSortingPage(QWidget *inParent);
 GalleryPage *makeMainWindowPage(QWidget *inParent);
 GalleryPage *makeMessageBoxesPage(QWidget *inParent);
+GalleryPage *makeProgressPage(QWidget *inParent);
 GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
@@ -61,6 +62,7 @@ constexpr GalleryPageEntry kPages[] = {
     {"sorting", "Sorting", &makeSortingPage},
     {"main-window", "Main window", &makeMainWindowPage},
     {"message-boxes", "Message boxes", &makeMessageBoxesPage},
+    {"progress", "Progress", &makeProgressPage},
     {"metrics", "Metrics", &makeMetricsPage},
 };
 } // namespace

@@ -21,9 +21,9 @@
 
 // Counts of rounds are divided by this: the thread sanitizer makes everything slower.
 #if defined(__SANITIZE_THREAD__)
-static constexpr int kEase = 20;
-#elif defined(__SANITIZE_ADDRESS__)
 static constexpr int kEase = 4;
+#elif defined(__SANITIZE_ADDRESS__)
+static constexpr int kEase = 5;
 #else
 static constexpr int kEase = 1;
 #endif

@@ -5,10 +5,12 @@
 #include "Support/Watchdog.h"
 #include "Window/VantraMainWindow.h"
 
+#include <QtCore/QProcess>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 
+#include <cstdio>
 #include <functional>
 #include <optional>
 #include <thread>
@@ -160,6 +162,17 @@ FATAL_CASE(hangs)
     manager->runProgress();
 }
 
+// Another program, which the user has turned to; it ends when it is told anything.
+FATAL_CASE(otherProgram)
+{
+    QWidget window;
+    window.resize(200, 200);
+    window.show();
+    window.activateWindow();
+    std::fputs(QTest::qWaitForWindowActive(&window, 20000) ? "active" : "never active", stderr);
+    std::getchar();
+}
+
 class tst_VantraProgressMgr : public QObject
 {
     Q_OBJECT
@@ -190,6 +203,7 @@ private slots:
     void workOnTheGuiThread();
     void focusComesBackTo_data();
     void focusComesBackTo();
+    void focusIsNotTakenFromAnotherProgram();
     void parentDeletedInTheRun();
     void mainWindowClosedInTheRun();
     void applicationQuitsInTheRun_data();
@@ -585,6 +599,34 @@ void tst_VantraProgressMgr::focusComesBackTo()
     QVERIFY(QTest::qWaitForWindowActive(parent));
     QTest::qWait(50);
     QCOMPARE(QApplication::activeWindow(), parent);
+}
+
+void tst_VantraProgressMgr::focusIsNotTakenFromAnotherProgram()
+{
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+        QSKIP("programs share no screen here");
+    }
+    QProcess other;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("VTWIDGETS_FATAL_CASE"), QStringLiteral("otherProgram"));
+    other.setProcessEnvironment(environment);
+    std::atomic<bool> active{false};
+    connect(&other, &QProcess::readyReadStandardError, mWindow,
+            [&] { active = active || other.readAllStandardError().contains("active"); });
+    QTimer::singleShot(50, mWindow, [&] { other.start(QCoreApplication::applicationFilePath(), {}); });
+    runOnThread(mManager, mWindow, [&](__VTProgress *) {
+        while (!active) {
+            pause(10);
+        }
+        pause(200);
+    });
+    QTest::qWait(300);
+    QCOMPARE(QGuiApplication::applicationState(), Qt::ApplicationInactive);
+    QVERIFY(QApplication::activeWindow() == nullptr);
+    other.closeWriteChannel();
+    QVERIFY(other.waitForFinished());
+    mWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow));
 }
 
 void tst_VantraProgressMgr::parentDeletedInTheRun()

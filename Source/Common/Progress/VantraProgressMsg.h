@@ -14,11 +14,16 @@
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
+#include <atomic>
+
 class VTWIDGETSLITE_EXPORT VantraProgressMsg
 {
 public:
     // Every number 0, the command among them, and empty texts.
     VantraProgressMsg() = default;
+    VantraProgressMsg(const VantraProgressMsg &inOther) { *this = inOther; }
+    VantraProgressMsg &operator=(const VantraProgressMsg &inOther);
+    ~VantraProgressMsg() { takeOver(); }
 
     VTProgressCmdType cmd() const { return mCmd; }
     void setCmd(VTProgressCmdType inCmd) { mCmd = inCmd; }
@@ -44,6 +49,9 @@ public:
     void setTitle(const QString &inTitle) { mTitle = inTitle; }
 
 private:
+    // What another thread has put into this message is seen from here on.
+    void takeOver() const { mComplete.load(std::memory_order_acquire); }
+
     VTProgressCmdType mCmd = VTProgressCmdType(0);
     int mStage = 0;
     int mStages = 0;
@@ -51,6 +59,9 @@ private:
     int mStageValue = 0;
     QString mStageName;
     QString mTitle;
+    // Written last by a copy, and read first of one: on its way from thread to thread a message answers for
+    // its contents itself, and thread checkers needn't know how the event queue does it.
+    std::atomic<bool> mComplete{true};
 };
 
 Q_DECLARE_METATYPE(VantraProgressMsg)

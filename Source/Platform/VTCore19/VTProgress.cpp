@@ -115,12 +115,15 @@ int numberOf(const std::atomic<int> __VTProgress::*inField, const __VTProgress *
 
 int report(__VTProgress *ioProgress, VTProgressCmdType inCmd)
 {
+    // A callback that processes events may see the operation's end, and with it the end of the object.
+    VTProgressRetain(ioProgress);
     const VTProgressCallback callback = ioProgress->callback.load(std::memory_order_acquire);
-    const int result = callback == nullptr ? 0 : callback(ioProgress, inCmd);
-    if (result != 0) {
-        return result;
+    int result = callback == nullptr ? 0 : callback(ioProgress, inCmd);
+    if (result == 0 && ioProgress->canceled.load(std::memory_order_acquire)) {
+        result = VTProgressResultCanceled;
     }
-    return ioProgress->canceled.load(std::memory_order_acquire) ? VTProgressResultCanceled : 0;
+    VTProgressRelease(ioProgress);
+    return result;
 }
 
 } // namespace
