@@ -127,6 +127,8 @@ endif()
 
 # The fonts are inside the library, so their licences travel with it.
 install(FILES README.md DESTINATION ${documentDir} COMPONENT Development)
+install(DIRECTORY Documentation DESTINATION ${documentDir} COMPONENT Development
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.json")
 set(fontNotices ${VTWIDGETS_FONT_NOTICES})
 if(NOT fontNotices)
     foreach(font fonts-roboto-unhinted fonts-font-awesome)

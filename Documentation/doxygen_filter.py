@@ -67,6 +67,8 @@ class Header:
         self.doc = None        # comment of the present run of declarations
         self.in_section = False
         self.is_begun = False  # a declaration goes on from the line before
+        self.head_end = 0      # where in the result the class's own documentation ends
+        self.head_more = []    # what comes from within the class to be added there
 
     def is_in(self, *kinds):
         return bool(self.scopes) and self.scopes[-1][0] in kinds
@@ -77,6 +79,7 @@ class Header:
     def head(self, comment):
         if self.has_own_class():
             self.result += block("", [f"\\class {self.stem}"] + markdown(comment))
+            self.head_end = len(self.result)
             self.result += ["", f"/// \\file {self.file_name}", f"/// Declares {self.stem}.", ""]
         else:
             self.result += block("", [f"\\file {self.file_name}"] + markdown(comment))
@@ -85,8 +88,9 @@ class Header:
         if self.is_in("enum"):
             self.result += block(indent, markdown(lines))
         elif is_alone:
-            if self.is_in("class", "struct"):
-                self.result += block(indent, [f"\\class {self.scopes[-1][1]}"] + markdown(lines))
+            # Not as a block of its own: Doxygen would put the first sentence of each before the rest of all.
+            if self.is_in("class", "struct") and self.scopes[-1][1] == self.stem:
+                self.head_more += block("", ["", *markdown(lines)])
         elif is_heading(lines):
             self.result += [f"{indent}/// \\name {lines[0]}", f"{indent}///@{{"]
             self.in_section = True
@@ -164,6 +168,7 @@ class Header:
             else:
                 self.end_run()
                 self.comment(indent, comment, is_alone)
+        self.result[self.head_end : self.head_end] = self.head_more
         return "\n".join(self.result) + "\n"
 
 

@@ -21,6 +21,9 @@ namespace {
 // Long enough for a busy bar to be well on its way, in milliseconds.
 constexpr int kBusyTime = 700;
 
+// Where a busy bar stands in the picture of a section, in percent.
+constexpr int kStoppedBusyValue = 60;
+
 // Of a page without a window around it, in pixels.
 constexpr int kPageWidth = 980;
 
@@ -57,6 +60,18 @@ void waitForBusyBars(QWidget *ioWindow)
     loop.exec();
 }
 
+// A busy bar moves with the clock. Pictures of sections are to be the same each time, so theirs stand still.
+void stopBusyBars(QWidget *ioWindow)
+{
+    const auto bars = ioWindow->findChildren<QProgressBar *>();
+    for (QProgressBar *bar : bars) {
+        if (bar->minimum() == bar->maximum()) {
+            bar->setRange(0, 100);
+            bar->setValue(kStoppedBusyValue);
+        }
+    }
+}
+
 // The gallery's window as large as its page needs it, hidden.
 void prepare(GalleryWindow *ioWindow, const GalleryOptions &inOptions)
 {
@@ -67,7 +82,10 @@ void prepare(GalleryWindow *ioWindow, const GalleryOptions &inOptions)
     ioWindow->growToPage();
     QApplication::processEvents();
     ioWindow->growToPage();
-    waitForBusyBars(ioWindow);
+    if (inOptions.section.isEmpty())
+        waitForBusyBars(ioWindow);
+    else
+        stopBusyBars(ioWindow);
 }
 
 // The only one that shows.
