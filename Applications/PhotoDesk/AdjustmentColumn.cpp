@@ -8,10 +8,13 @@
 #include "PresetControls.h"
 
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QUndoView>
 
+#include <algorithm>
+
 namespace {
-constexpr int kWidth = 320;
+constexpr int kLeastWidth = 320;
 constexpr int kHistoryHeight = 130;
 
 const PhotoSliderInfo &infoOf(const char *inName)
@@ -48,7 +51,6 @@ AdjustmentColumn::AdjustmentColumn(QWidget *inParent) : QScrollArea(inParent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFixedWidth(kWidth);
     setPhoto(nullptr);
 }
 
@@ -164,6 +166,12 @@ void AdjustmentColumn::showHistogram()
         }
     }
     mCurve->setHistogram(counts);
+}
+
+QSize AdjustmentColumn::minimumSizeHint() const
+{
+    const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {std::max(kLeastWidth, width), QScrollArea::minimumSizeHint().height()};
 }
 
 void AdjustmentColumn::showEvent(QShowEvent *inEvent)

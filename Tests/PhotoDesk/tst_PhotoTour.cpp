@@ -116,6 +116,7 @@ private:
 
 void tst_PhotoTour::initTestCase()
 {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QStandardPaths::setTestModeEnabled(true);
     QCoreApplication::setOrganizationName(QStringLiteral("VTWidgetsLite"));
     QCoreApplication::setApplicationName(QStringLiteral("PhotoDeskTour"));
