@@ -2,10 +2,12 @@
 
 #include "AdjustmentRow.h"
 #include "Controls/VantraButton.h"
+#include "Controls/VantraStyledItemDelegate.h"
 #include "CurveEditor.h"
 #include "Pane.h"
 #include "Photo.h"
 #include "PresetControls.h"
+#include "StyleOptions/VantraStyleOptionViewItem.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QScrollBar>
@@ -22,6 +24,21 @@ const PhotoSliderInfo &infoOf(const char *inName)
     return *std::find_if(std::begin(kPhotoSliders), std::end(kPhotoSliders),
                          [&](const PhotoSliderInfo &inInfo) { return qstrcmp(inInfo.name, inName) == 0; });
 }
+
+// Rows whose text keeps away from the list's edge.
+class StepDelegate : public VantraStyledItemDelegate
+{
+public:
+    using VantraStyledItemDelegate::VantraStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *outOption, const QModelIndex &inIndex) const override
+    {
+        VantraStyledItemDelegate::initStyleOption(outOption, inIndex);
+        if (outOption->version >= VantraStyleOptionViewItem::Version)
+            static_cast<VantraStyleOptionViewItem *>(outOption)->useIndent = true;
+    }
+};
 } // namespace
 
 AdjustmentColumn::AdjustmentColumn(QWidget *inParent) : QScrollArea(inParent)
@@ -106,6 +123,7 @@ void AdjustmentColumn::addHistory()
 {
     Pane *pane = addPane(tr("History"), "history");
     mHistory = new QUndoView(pane);
+    mHistory->setItemDelegate(new StepDelegate(mHistory));
     mHistory->setEmptyLabel(tr("As opened"));
     mHistory->setFixedHeight(kHistoryHeight);
     mHistory->setAccessibleName(tr("History"));

@@ -22,11 +22,16 @@ QPixmap framed(const QPixmap &inPreview, double inRatio)
     QPixmap box(kPreviewBox * inRatio);
     box.setDevicePixelRatio(inRatio);
     box.fill(Qt::transparent);
-    if (inPreview.isNull())
+    QPainter painter(&box);
+    if (inPreview.isNull()) {
+        painter.fillRect(
+            QRect(QPoint((kPreviewBox.width() - kPreviewSize.width()) / 2, 2), kPreviewSize - QSize(0, 4)),
+            VantraStyleTheme::instance().colorPalette().color(VantraPalette::Normal,
+                                                              VantraPalette::FrameSunkenBackground));
         return box;
+    }
     QRectF rect({}, QSizeF(inPreview.size()).scaled(kPreviewSize, Qt::KeepAspectRatio));
     rect.moveCenter(QRectF({}, kPreviewBox).center());
-    QPainter painter(&box);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(rect, inPreview, inPreview.rect());
     return box;

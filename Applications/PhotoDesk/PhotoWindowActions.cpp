@@ -44,7 +44,7 @@ void styleBadge(QWidget *inParent)
         if (label->labelStyle() != VantraLabel::NotificationStyle)
             continue;
         const VantraColorPalette &colors = VantraStyleTheme::instance().colorPalette();
-        const QColor plate = colors.color(VantraPalette::Highlighted, VantraPalette::WindowText);
+        const QColor plate = colors.color(VantraPalette::Normal, VantraPalette::AccentButtonText);
         const QColor text = colors.color(VantraPalette::Normal, VantraPalette::WindowBackground);
         label->setFixedSize(kBadgeSize);
         label->setStyleSheet(

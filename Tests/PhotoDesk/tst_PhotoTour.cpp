@@ -428,6 +428,9 @@ void tst_PhotoTour::dropsFolders()
     const int before = mWindow->model()->rowCount();
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(mFolder.filePath(QStringLiteral("out")))});
+    QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(mWindow.get(), &enter);
+    QVERIFY(enter.isAccepted());
     QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(mWindow.get(), &drop);
     QTRY_COMPARE(mWindow->model()->rowCount(), before + kCopies + 4);
