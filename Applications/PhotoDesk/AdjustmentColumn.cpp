@@ -2,16 +2,21 @@
 
 #include "AdjustmentRow.h"
 #include "Controls/VantraButton.h"
+#include "Controls/VantraStyledItemDelegate.h"
 #include "CurveEditor.h"
 #include "Pane.h"
 #include "Photo.h"
 #include "PresetControls.h"
+#include "StyleOptions/VantraStyleOptionViewItem.h"
 
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QUndoView>
 
+#include <algorithm>
+
 namespace {
-constexpr int kWidth = 320;
+constexpr int kLeastWidth = 320;
 constexpr int kHistoryHeight = 130;
 
 const PhotoSliderInfo &infoOf(const char *inName)
@@ -19,6 +24,21 @@ const PhotoSliderInfo &infoOf(const char *inName)
     return *std::find_if(std::begin(kPhotoSliders), std::end(kPhotoSliders),
                          [&](const PhotoSliderInfo &inInfo) { return qstrcmp(inInfo.name, inName) == 0; });
 }
+
+// Rows whose text keeps away from the list's edge.
+class StepDelegate : public VantraStyledItemDelegate
+{
+public:
+    using VantraStyledItemDelegate::VantraStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *outOption, const QModelIndex &inIndex) const override
+    {
+        VantraStyledItemDelegate::initStyleOption(outOption, inIndex);
+        if (outOption->version >= VantraStyleOptionViewItem::Version)
+            static_cast<VantraStyleOptionViewItem *>(outOption)->useIndent = true;
+    }
+};
 } // namespace
 
 AdjustmentColumn::AdjustmentColumn(QWidget *inParent) : QScrollArea(inParent)
@@ -48,7 +68,6 @@ AdjustmentColumn::AdjustmentColumn(QWidget *inParent) : QScrollArea(inParent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFixedWidth(kWidth);
     setPhoto(nullptr);
 }
 
@@ -104,6 +123,7 @@ void AdjustmentColumn::addHistory()
 {
     Pane *pane = addPane(tr("History"), "history");
     mHistory = new QUndoView(pane);
+    mHistory->setItemDelegate(new StepDelegate(mHistory));
     mHistory->setEmptyLabel(tr("As opened"));
     mHistory->setFixedHeight(kHistoryHeight);
     mHistory->setAccessibleName(tr("History"));
@@ -164,6 +184,12 @@ void AdjustmentColumn::showHistogram()
         }
     }
     mCurve->setHistogram(counts);
+}
+
+QSize AdjustmentColumn::minimumSizeHint() const
+{
+    const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {std::max(kLeastWidth, width), QScrollArea::minimumSizeHint().height()};
 }
 
 void AdjustmentColumn::showEvent(QShowEvent *inEvent)

@@ -24,6 +24,10 @@ public:
     // Null for none, which disables the column.
     void setPhoto(Photo *inPhoto);
 
+    // As wide as the panes are in the present text size.
+    QSize sizeHint() const override { return minimumSizeHint(); }
+    QSize minimumSizeHint() const override;
+
 protected:
     void showEvent(QShowEvent *inEvent) override;
 

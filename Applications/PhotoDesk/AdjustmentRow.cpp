@@ -12,10 +12,6 @@
 
 #include <cmath>
 
-namespace {
-constexpr int kFieldWidth = 52;
-}
-
 GradientSlider::GradientSlider(const QGradientStops &inStops, QWidget *inParent)
     : QSlider(Qt::Horizontal, inParent), mStops(inStops)
 {
@@ -57,7 +53,7 @@ AdjustmentRow::AdjustmentRow(const PhotoSliderInfo &inInfo, const QString &inNam
     mField->setMaximum(inInfo.maximum);
     mField->setDecimals(inInfo.decimals);
     mField->setAlignment(Qt::AlignRight);
-    mField->setFixedWidth(kFieldWidth);
+    fitField();
 
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -88,4 +84,17 @@ void AdjustmentRow::setValue(double inValue)
     const QSignalBlocker blocker(mSlider);
     mSlider->setValue(qRound(inValue * mScale));
     mField->setValueAndBlockSignals(inValue);
+}
+
+void AdjustmentRow::fitField()
+{
+    // All fields ask for the room of one number; these hold a sign as well.
+    mField->setFixedWidth(mField->fontMetrics().horizontalAdvance(QStringLiteral("-100.00")));
+}
+
+void AdjustmentRow::changeEvent(QEvent *inEvent)
+{
+    QWidget::changeEvent(inEvent);
+    if (inEvent->type() == QEvent::StyleChange || inEvent->type() == QEvent::FontChange)
+        fitField();
 }

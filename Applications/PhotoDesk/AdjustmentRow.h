@@ -45,7 +45,12 @@ signals:
     // The user has let go of the slider, or committed a number: the next change is another step.
     void finished();
 
+protected:
+    void changeEvent(QEvent *inEvent) override;
+
 private:
+    void fitField();
+
     const PhotoSliderInfo &mInfo;
     const QString mName;
     const double mScale; // slider steps for each unit

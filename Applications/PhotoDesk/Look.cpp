@@ -10,6 +10,29 @@
 #include <QtWidgets/QWidget>
 
 namespace {
+constexpr int kMenuBarMargin = 5; // above and below the menus' names
+
+// The house style, but for what the desktop would have a say in.
+class DeskStyle : public VantraStyle
+{
+public:
+    int styleHint(StyleHint inHint, const QStyleOption *inOption, const QWidget *inWidget,
+                  QStyleHintReturn *outData) const override
+    {
+        if (inHint == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return VantraStyle::styleHint(inHint, inOption, inWidget, outData);
+    }
+    int pixelMetric(PixelMetric inMetric, const QStyleOption *inOption,
+                    const QWidget *inWidget) const override
+    {
+        // The bar is higher than its names, which stand in its middle with this.
+        if (inMetric == PM_MenuBarVMargin)
+            return kMenuBarMargin;
+        return VantraStyle::pixelMetric(inMetric, inOption, inWidget);
+    }
+};
+
 const QString kBase = QStringLiteral("base");
 
 // Themes and fonts are asked for at each paint and measure; what widgets have kept of them goes with this.
@@ -35,7 +58,7 @@ void Look::start()
     VantraFont::setUserSelectedFontPointSizeModifier(textSize());
     VantraFont::loadApplicationFonts();
     VantraStyleTheme::loadGlobalConfig(kBase, accent());
-    QApplication::setStyle(new VantraStyle);
+    QApplication::setStyle(new DeskStyle);
     QApplication::setFont(VantraFont::mainFont());
 }
 

@@ -4,6 +4,10 @@
 
 #include <QtCore/QFileInfo>
 
+namespace {
+constexpr QSize kPreviewSize(168, 120); // in pixels, for a display of double resolution
+}
+
 class Photo::Step : public QUndoCommand
 {
 public:
@@ -66,13 +70,14 @@ void Photo::setExported(const PhotoAdjustments &inAdjustments)
 void Photo::setThumbnail(const QImage &inThumbnail)
 {
     mThumbnail = inThumbnail;
+    mSmallThumbnail = inThumbnail.scaled(kPreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     mPreview = QPixmap();
     emit changed();
 }
 
 const QPixmap &Photo::preview() const
 {
-    if (mPreview.isNull() && !mThumbnail.isNull())
-        mPreview = QPixmap::fromImage(PhotoRenderer::render(mAdjustments, mThumbnail));
+    if (mPreview.isNull() && !mSmallThumbnail.isNull())
+        mPreview = QPixmap::fromImage(PhotoRenderer::render(mAdjustments, mSmallThumbnail));
     return mPreview;
 }

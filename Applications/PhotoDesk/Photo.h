@@ -61,5 +61,6 @@ private:
     QUndoStack mHistory;
     int mStep = 0;
     QImage mThumbnail;
+    QImage mSmallThumbnail;
     mutable QPixmap mPreview;
 };

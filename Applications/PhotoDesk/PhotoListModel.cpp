@@ -11,6 +11,7 @@
 namespace {
 constexpr int kThumbnailSide = 384; // in pixels; large enough to stand in on the canvas while a photo loads
 constexpr QSize kPreviewSize(84, 60);
+constexpr QSize kPreviewBox(100, 60);
 constexpr int kRowHeight = 72;
 constexpr int kStatusSize = 16;
 constexpr int kMargin = 10;
@@ -18,14 +19,19 @@ constexpr int kMargin = 10;
 // The preview in a box of always the same size, so that all names begin at one line.
 QPixmap framed(const QPixmap &inPreview, double inRatio)
 {
-    QPixmap box(kPreviewSize * inRatio);
+    QPixmap box(kPreviewBox * inRatio);
     box.setDevicePixelRatio(inRatio);
     box.fill(Qt::transparent);
-    if (inPreview.isNull())
-        return box;
-    QRectF rect({}, QSizeF(inPreview.size()).scaled(kPreviewSize, Qt::KeepAspectRatio));
-    rect.moveCenter(QRectF({}, kPreviewSize).center());
     QPainter painter(&box);
+    if (inPreview.isNull()) {
+        painter.fillRect(
+            QRect(QPoint((kPreviewBox.width() - kPreviewSize.width()) / 2, 2), kPreviewSize - QSize(0, 4)),
+            VantraStyleTheme::instance().colorPalette().color(VantraPalette::Normal,
+                                                              VantraPalette::FrameSunkenBackground));
+        return box;
+    }
+    QRectF rect({}, QSizeF(inPreview.size()).scaled(kPreviewSize, Qt::KeepAspectRatio));
+    rect.moveCenter(QRectF({}, kPreviewBox).center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(rect, inPreview, inPreview.rect());
     return box;
@@ -137,7 +143,7 @@ void PhotoDelegate::initStyleOption(QStyleOptionViewItem *outOption, const QMode
     const auto *photo = inIndex.data(PhotoListModel::PhotoRole).value<Photo *>();
     outOption->features |= QStyleOptionViewItem::HasDecoration;
     outOption->icon = QIcon(framed(photo->preview(), outOption->widget->devicePixelRatioF()));
-    outOption->decorationSize = kPreviewSize;
+    outOption->decorationSize = kPreviewBox;
     outOption->textElideMode = Qt::ElideMiddle;
 }
 

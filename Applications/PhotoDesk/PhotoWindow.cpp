@@ -226,8 +226,10 @@ void PhotoWindow::tellExported(int inCount, const QString &inFolder)
     QSettings settings;
     if (settings.value(kHideExportedKey).toBool())
         return;
-    VantraMessageBox box(QStringLiteral("PhotoDesk"), tr("%n photo(s) exported.", nullptr, inCount), inFolder,
-                         QMessageBox::Ok, this, true);
+    VantraMessageBox box(QStringLiteral("PhotoDesk"),
+                         inCount == 1 ? tr("The photo is exported.")
+                                      : tr("%1 photos are exported.").arg(inCount),
+                         inFolder, QMessageBox::Ok, this, true);
     box.exec();
     settings.setValue(kHideExportedKey, box.isDontShowMeThisAgainChecked());
 }
@@ -244,11 +246,12 @@ void PhotoWindow::closeEvent(QCloseEvent *inEvent)
 {
     const QList<Photo *> waiting = mModel->photosToExport();
     if (!waiting.isEmpty()) {
-        VantraMessageBox box(
-            QStringLiteral("PhotoDesk"),
-            tr("%n photo(s) changed and not exported.", nullptr, static_cast<int>(waiting.size())),
-            tr("The photos themselves are never changed: what isn't exported is lost."),
-            QMessageBox::Discard | QMessageBox::Cancel, this, false);
+        VantraMessageBox box(QStringLiteral("PhotoDesk"),
+                             waiting.size() == 1
+                                 ? tr("One photo is changed and not exported.")
+                                 : tr("%1 photos are changed and not exported.").arg(waiting.size()),
+                             tr("The photos themselves are never changed: what isn't exported is lost."),
+                             QMessageBox::Discard | QMessageBox::Cancel, this, false);
         QPushButton *exportButton =
             box.addButton(tr("Export…"), QMessageBox::AcceptRole, nullptr, nullptr, true);
         box.setDefaultButton(exportButton);

@@ -4,6 +4,7 @@
 
 #include "Controls/VantraButton.h"
 #include "Controls/VantraFrame.h"
+#include "Controls/VantraLabel.h"
 #include "Controls/VantraMenu.h"
 #include "Controls/VantraMenuBar.h"
 #include "Controls/VantraToolButton.h"
@@ -12,6 +13,8 @@
 #include "Photo.h"
 #include "PhotoCanvas.h"
 #include "PhotoListModel.h"
+#include "Theme/VTTheme.h"
+#include "Theme/VantraStyleTheme.h"
 #include "Utilities/VTWidgetsImageUtils.h"
 
 #include <QtCore/QFileInfo>
@@ -21,6 +24,7 @@
 
 namespace {
 constexpr QSize kToolSize(36, 32);
+constexpr QSize kBadgeSize(22, 16);
 
 // Ticks one of several entries of a menu.
 template <typename Choose>
@@ -31,6 +35,23 @@ void addChoice(QActionGroup *ioGroup, QMenu *ioMenu, const QString &inText, bool
     action->setChecked(inChosen);
     ioGroup->addAction(action);
     QObject::connect(action, &QAction::triggered, ioMenu, inChoose);
+}
+// The badge is a bare label among the button's siblings. It gets a plate that stands out from every accent.
+void styleBadge(QWidget *inParent)
+{
+    const QList<VantraLabel *> labels = inParent->findChildren<VantraLabel *>();
+    for (VantraLabel *label : labels) {
+        if (label->labelStyle() != VantraLabel::NotificationStyle)
+            continue;
+        const VantraColorPalette &colors = VantraStyleTheme::instance().colorPalette();
+        const QColor plate = colors.color(VantraPalette::Normal, VantraPalette::AccentButtonText);
+        const QColor text = colors.color(VantraPalette::Normal, VantraPalette::WindowBackground);
+        label->setFixedSize(kBadgeSize);
+        label->setStyleSheet(
+            QStringLiteral("background: %1; color: %2; border-radius: %3px; font: bold 10px;")
+                .arg(VTTheme::toString(plate), VTTheme::toString(text))
+                .arg(kBadgeSize.height() / 2));
+    }
 }
 } // namespace
 
@@ -183,7 +204,7 @@ VantraFrame *PhotoWindow::makeToolBar()
     bar->setFrameShape(QFrame::Panel);
     bar->setFrameShadow(QFrame::Raised);
     auto *layout = new QHBoxLayout(bar);
-    layout->setContentsMargins(10, 6, 14, 6);
+    layout->setContentsMargins(10, 8, 20, 8);
     layout->setSpacing(4);
     // Buttons that do something at once, and then those that stay on.
     const auto addDoing = [&](const QString &inName, const QImage &inImage, int inKey, auto inDo) {
@@ -228,6 +249,7 @@ VantraFrame *PhotoWindow::makeToolBar()
     mExportButton->setButtonStyle(VantraButton::LeftAndRightCapButtonAccentStyle);
     mExportButton->setText(tr("Export"));
     mExportButton->setNotificationBadgeEnabled(true);
+    styleBadge(bar);
     layout->addWidget(mExportButton);
     connect(mExportButton, &VantraButton::clicked, this, [this] {
         const QList<Photo *> waiting = mModel->photosToExport();

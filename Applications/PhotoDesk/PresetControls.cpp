@@ -25,6 +25,7 @@ PresetControls::PresetControls(QWidget *inParent)
 {
     mList->setObjectName(QStringLiteral("presets"));
     mList->setAccessibleName(tr("Preset"));
+    mList->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     VantraButton *save = makeButton(tr("Save…"), "savePreset", this);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -5,6 +5,7 @@
 #include "PresetStore.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QLocale>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -57,6 +58,9 @@ int main(int argc, char **argv)
     QApplication application(guiArgumentCount, argv);
     nameProgram();
     QApplication::setWindowIcon(Icons::program());
+    // Names are sorted as people do, which a system without a language doesn't know how to.
+    if (QLocale().language() == QLocale::C)
+        QLocale::setDefault(QLocale(QLocale::English));
     Look::start();
     PhotoWindow window;
     window.show();

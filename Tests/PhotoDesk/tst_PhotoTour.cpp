@@ -94,6 +94,12 @@ private:
     }
     void picture(const QString &inName, QWidget *inWidget = nullptr);
     void drag(QWidget *inWidget, const QPoint &inFrom, const QPoint &inTo);
+    // A button's key presses it for a moment before it clicks.
+    void pressKey(int inKey)
+    {
+        QTest::keyClick(mWindow.get(), Qt::Key(inKey));
+        QTest::qWait(150);
+    }
     void click(QWidget *inWidget) { QTest::mouseClick(inWidget, Qt::LeftButton); }
     QPoint handleOf(QSlider *inSlider) const;
     void inDialog(std::function<bool(QWidget *)> inDo);
@@ -110,6 +116,7 @@ private:
 
 void tst_PhotoTour::initTestCase()
 {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QStandardPaths::setTestModeEnabled(true);
     QCoreApplication::setOrganizationName(QStringLiteral("VTWidgetsLite"));
     QCoreApplication::setApplicationName(QStringLiteral("PhotoDeskTour"));
@@ -245,12 +252,12 @@ void tst_PhotoTour::undoTakesDragsBackWhole()
 void tst_PhotoTour::viewsShowTheSamePhoto()
 {
     PhotoCanvas *canvas = mWindow->canvas();
-    QTest::keyClick(mWindow.get(), Qt::Key_B);
+    pressKey(Qt::Key_B);
     picture(QStringLiteral("compared"));
-    QTest::keyClick(mWindow.get(), Qt::Key_B);
-    QTest::keyClick(mWindow.get(), Qt::Key_M);
+    pressKey(Qt::Key_B);
+    pressKey(Qt::Key_M);
     picture(QStringLiteral("inspected"));
-    QTest::keyClick(mWindow.get(), Qt::Key_M);
+    pressKey(Qt::Key_M);
     const double fitted = canvas->zoom();
     QTest::keyClick(mWindow.get(), Qt::Key_1, Qt::ControlModifier);
     QCOMPARE(canvas->zoom(), 1.0);
@@ -313,7 +320,7 @@ void tst_PhotoTour::crops()
     QCOMPARE(photo()->adjustments().crop, crop);
     QVERIFY(crop.width() < 0.8 && crop.height() < 0.85);
     QVERIFY(!find<VantraToolButton>(QStringLiteral("crop"))->isChecked());
-    QTest::keyClick(mWindow.get(), Qt::Key_C);
+    pressKey(Qt::Key_C);
     QTest::keyClick(frame, Qt::Key_Escape);
     QCOMPARE(photo()->adjustments().crop, crop);
     picture(QStringLiteral("cropped"));
@@ -322,11 +329,11 @@ void tst_PhotoTour::crops()
 void tst_PhotoTour::turnsTheCropAlong()
 {
     const QRectF crop = photo()->adjustments().crop;
-    QTest::keyClick(mWindow.get(), Qt::Key_R);
+    pressKey(Qt::Key_R);
     QCOMPARE(photo()->adjustments().quarterTurns, 1);
     QVERIFY(qAbs(photo()->adjustments().crop.width() - crop.height()) < 1e-9);
     picture(QStringLiteral("turned"));
-    QTest::keyClick(mWindow.get(), Qt::Key_L);
+    pressKey(Qt::Key_L);
     QVERIFY(qAbs(photo()->adjustments().crop.left() - crop.left()) < 1e-9);
 }
 
@@ -340,7 +347,7 @@ void tst_PhotoTour::largePhotoFollowsTheSlider()
     QTRY_VERIFY_WITH_TIMEOUT(!mWindow->canvas()->isLoading(), 20000);
     auto *slider = find<QSlider>(QStringLiteral("contrastSlider"));
     drag(slider, handleOf(slider), handleOf(slider) + QPoint(50, 0));
-    QTest::keyClick(mWindow.get(), Qt::Key_R);
+    pressKey(Qt::Key_R);
     drag(slider, handleOf(slider), handleOf(slider) + QPoint(-20, 0));
     QTest::qWait(50);
 }
@@ -421,6 +428,9 @@ void tst_PhotoTour::dropsFolders()
     const int before = mWindow->model()->rowCount();
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(mFolder.filePath(QStringLiteral("out")))});
+    QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(mWindow.get(), &enter);
+    QVERIFY(enter.isAccepted());
     QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(mWindow.get(), &drop);
     QTRY_COMPARE(mWindow->model()->rowCount(), before + kCopies + 4);
@@ -431,7 +441,7 @@ void tst_PhotoTour::dropsFolders()
 
 void tst_PhotoTour::quitAsksForUnsavedChanges()
 {
-    QTest::keyClick(mWindow.get(), Qt::Key_R);
+    pressKey(Qt::Key_R);
     const auto answer = [this](const QString &inPicture, std::function<void(VantraMessageBox *)> inDo) {
         inDialog([this, inPicture, inDo](QWidget *inDialog) {
             auto *box = qobject_cast<VantraMessageBox *>(inDialog);
