@@ -30,27 +30,6 @@ GalleryPage *makeProgressPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
-    {"palette", "Palette", &makePalettePage},
-    {"type", "Type", &makeTypePage},
-    {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
-    {"pictures", "Pictures", &makePicturesPage},
-    {"metrics", "Metrics", &makeMetricsPage},
-    {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
-    {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
-    {"item-views", "Item views", &makeItemViewsPage},
-    {"scrolling", "Scrolling", &makeScrollingPage},
-    {"menus", "Menus", &makeMenusPage},
-    {"frames-and-panes", "Frames and panes", &makePanesPage},
-    {"buttons", "Buttons", &makeButtonsPage},
-    {"labels", "Labels", &makeLabelsPage},
-    {"tool-buttons", "Tool buttons", &makeToolButtonsPage},
-    {"tool-tips", "Tool tips", &makeToolTipsPage},
-    {"fields", "Fields", &makeFieldsPage},
-    {"check-and-combo-boxes", "Check and combo boxes", &makeBoxesPage},
-    {"sorting", "Sorting", &makeSortingPage},
-    {"main-window", "Main window", &makeMainWindowPage},
-    {"message-boxes", "Message boxes", &makeMessageBoxesPage},
-    {"progress", "Progress", &makeProgressPage},
     {"palette", QT_TRANSLATE_NOOP("GalleryPages", "Palette"), &makePalettePage},
     {"type", QT_TRANSLATE_NOOP("GalleryPages", "Type"), &makeTypePage},
     {"icons-and-tinting", QT_TRANSLATE_NOOP("GalleryPages", "Icons and tinting"), &makeIconsPage},
@@ -68,9 +47,10 @@ constexpr GalleryPageEntry kPages[] = {
     {"tool-tips", QT_TRANSLATE_NOOP("GalleryPages", "Tool tips"), &makeToolTipsPage},
     {"fields", QT_TRANSLATE_NOOP("GalleryPages", "Fields"), &makeFieldsPage},
     {"check-and-combo-boxes", QT_TRANSLATE_NOOP("GalleryPages", "Check and combo boxes"), &makeBoxesPage},
-
-namespace {
-constexpr GalleryPageEntry kPages[] = {
+    {"sorting", QT_TRANSLATE_NOOP("GalleryPages", "Sorting"), &makeSortingPage},
+    {"main-window", QT_TRANSLATE_NOOP("GalleryPages", "Main window"), &makeMainWindowPage},
+    {"message-boxes", QT_TRANSLATE_NOOP("GalleryPages", "Message boxes"), &makeMessageBoxesPage},
+    {"progress", QT_TRANSLATE_NOOP("GalleryPages", "Progress"), &makeProgressPage},
 };
 } // namespace
 
