@@ -23,6 +23,10 @@ GalleryPage *makeToolButtonsPage(QWidget *inParent);
 GalleryPage *makeToolTipsPage(QWidget *inParent);
 GalleryPage *makeFieldsPage(QWidget *inParent);
 GalleryPage *makeBoxesPage(QWidget *inParent);
+GalleryPage *makeSortingPage(QWidget *inParent);
+GalleryPage *makeMainWindowPage(QWidget *inParent);
+GalleryPage *makeMessageBoxesPage(QWidget *inParent);
+GalleryPage *makeProgressPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
@@ -43,27 +47,10 @@ constexpr GalleryPageEntry kPages[] = {
     {"tool-tips", QT_TRANSLATE_NOOP("GalleryPages", "Tool tips"), &makeToolTipsPage},
     {"fields", QT_TRANSLATE_NOOP("GalleryPages", "Fields"), &makeFieldsPage},
     {"check-and-combo-boxes", QT_TRANSLATE_NOOP("GalleryPages", "Check and combo boxes"), &makeBoxesPage},
-GalleryPage *makeSortingPage(QWidget *inParent);
-GalleryPage *makeMainWindowPage(QWidget *inParent);
-GalleryPage *makeMessageBoxesPage(QWidget *inParent);
-GalleryPage *makeProgressPage(QWidget *inParent);
-GalleryPage *makeMetricsPage(QWidget *inParent);
-
-namespace {
-constexpr GalleryPageEntry kPages[] = {
-    {"palette", "Palette", &makePalettePage},
-    {"type", "Type", &makeTypePage},
-    {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
-    {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
-    {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
-    {"item-views", "Item views", &makeItemViewsPage},
-    {"scrolling", "Scrolling", &makeScrollingPage},
-    {"menus", "Menus", &makeMenusPage},
-    {"sorting", "Sorting", &makeSortingPage},
-    {"main-window", "Main window", &makeMainWindowPage},
-    {"message-boxes", "Message boxes", &makeMessageBoxesPage},
-    {"progress", "Progress", &makeProgressPage},
-    {"metrics", "Metrics", &makeMetricsPage},
+    {"sorting", QT_TRANSLATE_NOOP("GalleryPages", "Sorting"), &makeSortingPage},
+    {"main-window", QT_TRANSLATE_NOOP("GalleryPages", "Main window"), &makeMainWindowPage},
+    {"message-boxes", QT_TRANSLATE_NOOP("GalleryPages", "Message boxes"), &makeMessageBoxesPage},
+    {"progress", QT_TRANSLATE_NOOP("GalleryPages", "Progress"), &makeProgressPage},
 };
 } // namespace
 

@@ -94,6 +94,22 @@
         <source>Check and combo boxes</source>
         <translation>Kontroll- und Kombinationsfelder</translation>
     </message>
+    <message>
+        <source>Sorting</source>
+        <translation>Sortierung</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Hauptfenster</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Meldungsfenster</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
 </context>
 <context>
     <name>GalleryWindow</name>
