@@ -25,6 +25,9 @@ c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$work/headers.cpp" "${flags[
     { echo "install_and_use: the fonts' licences are missing" >&2; exit 1; }
 QT_QPA_PLATFORM=offscreen "$work/moved/bin/vtwidgets-gallery" --list-pages >/dev/null
 [[ -f $work/moved/share/VTWidgetsLite/theme.schema.json ]]
+if [[ -d $build/plugins/designer ]]; then
+    [[ -n $(find "$work/moved" -path '*/plugins/designer/vantradesigner*') ]]
+fi
 if [[ -x $build/bin/vtwidgets-theme ]]; then
     "$work/moved/bin/vtwidgets-theme" list >/dev/null
 fi
