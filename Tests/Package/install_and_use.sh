@@ -28,6 +28,9 @@ mkdir "$work/exported"
 env -u DISPLAY "$work/moved/bin/PhotoDesk" --export "$work/exported" --preset Silver "$work/moved/share/PhotoDesk" >/dev/null
 [[ $(ls "$work/exported" | wc -l) == 3 ]] || { echo "install_and_use: PhotoDesk exported nothing" >&2; exit 1; }
 [[ -f $work/moved/share/VTWidgetsLite/theme.schema.json ]]
+if [[ -d $build/plugins/designer ]]; then
+    [[ -n $(find "$work/moved" -path '*/plugins/designer/vantradesigner*') ]]
+fi
 if [[ -x $build/bin/vtwidgets-theme ]]; then
     "$work/moved/bin/vtwidgets-theme" list >/dev/null
 fi

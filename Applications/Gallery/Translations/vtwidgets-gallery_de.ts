@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Tool buttons</source>
-        <translation>Werkzeugknöpfe</translation>
+        <translation>Werkzeugschaltflächen</translation>
     </message>
     <message>
         <source>Tool tips</source>
@@ -92,7 +92,23 @@
     </message>
     <message>
         <source>Check and combo boxes</source>
-        <translation>Kontroll- und Kombinationsfelder</translation>
+        <translation>Kontroll- und Listenfelder</translation>
+    </message>
+    <message>
+        <source>Sorting</source>
+        <translation>Sortierung</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Hauptfenster</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Meldungsfenster</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
     </message>
 </context>
 <context>
