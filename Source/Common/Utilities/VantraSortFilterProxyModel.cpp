@@ -153,12 +153,10 @@ void VantraSortFilterProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
         }
     };
     dropKeys();
-    if (this->sourceModel() != nullptr) {
-        for (const QMetaObject::Connection &connection : mSourceConnections) {
-            disconnect(connection);
-        }
-        mSourceConnections.clear();
+    for (const QMetaObject::Connection &connection : std::as_const(mSourceConnections)) {
+        disconnect(connection);
     }
+    mSourceConnections.clear();
     // Before the base class makes its connections, so that it never sorts by keys of earlier data.
     if (sourceModel != nullptr) {
         using Model = QAbstractItemModel;

@@ -9,8 +9,10 @@ class QKeySequence;
 class VTWIDGETSLITE_EXPORT IVTShortcutManagerListener
 {
 public:
-    virtual ~IVTShortcutManagerListener();
-
     // Called on the GUI thread once actions and shortcuts have the new sequence.
     virtual void keySequenceChanged(const QKeySequence &inOld, const QKeySequence &inNew) = 0;
+
+protected:
+    // Nobody ends a listener by way of this interface.
+    ~IVTShortcutManagerListener() = default;
 };

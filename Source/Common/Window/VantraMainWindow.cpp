@@ -7,6 +7,7 @@
 #include "Window/VantraMainWindowNative_p.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QShortcut>
@@ -204,9 +205,12 @@ void VantraMainWindow::emitAboutToTriggerShortcut(QKeySequence inKeySequence)
 void VantraMainWindow::triggerActionOrShortcut(QKeySequence inKeySequence)
 {
     QObject *target = mKeySequenceToActionOrShortcutMap.value(inKeySequence);
-    if (auto *action = qobject_cast<QAction *>(target)) {
+    if (const QPointer<QAction> action = qobject_cast<QAction *>(target)) {
         emitAboutToTriggerShortcut(inKeySequence);
-        action->trigger();
+        // A menu may fill itself anew when it is about to show.
+        if (!action.isNull()) {
+            action->trigger();
+        }
     } else if (auto *shortcut = qobject_cast<QShortcut *>(target)) {
         emit shortcut->activated();
     }

@@ -1,7 +1,8 @@
 #pragma once
 
 // Lets a test of this project take the branches of another system. Programs have no use for it: nothing but
-// VTQtSysInfo's answers changes, no native call does.
+// VTQtSysInfo's answers changes. Native calls stay those of the real system, so a main window, which makes
+// one on macOS, is made before.
 //
 //     const VTQtSysInfoPretence onMac(VTQtSysInfoPretence::Mac);
 //     QTest::keyClick(window, Qt::Key_Meta);

@@ -1,3 +1,0 @@
-#include "Window/IVTShortcutManagerListener.h"
-
-IVTShortcutManagerListener::~IVTShortcutManagerListener() = default;
