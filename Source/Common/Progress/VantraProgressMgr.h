@@ -39,9 +39,8 @@
 // - Window that owns the manager deleted: the manager goes with it, and nobody may use it any more. The
 //   dialog ends, runProgress returns 0, and the algorithm's next progress call is answered with 1007. An
 //   algorithm on another thread that goes on with its progress object has to hold a reference of its own.
-// - Algorithm that leaves without an endProgress: the dialog stays and the application stays blocked. Hold
-// the
-//   end in an object whose destructor calls it, as VTThreadedProgressCmd does.
+// - Algorithm that leaves without an endProgress: the dialog stays and the application stays blocked. Put the
+//   end into the destructor of an object of its own, as VTThreadedProgressCmd does.
 
 #include "Progress/VantraProgressMsg.h"
 #include "VTQtLog.h"
