@@ -67,6 +67,7 @@ int main(int argc, char **argv)
     Bench::registerControls();
     Bench::registerWindow();
     Bench::registerProgress();
+    Bench::registerPhotoDesk();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

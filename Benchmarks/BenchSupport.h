@@ -49,6 +49,7 @@ void registerWhole();
 void registerControls();
 void registerWindow();
 void registerProgress();
+void registerPhotoDesk();
 
 // Shows a window of controls and a long list under the application's style, and prints the most memory that
 // the process has held, in KiB; nothing where the system can't tell.

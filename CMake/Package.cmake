@@ -1,6 +1,6 @@
-# What "cmake --install" puts where, and the .deb files that CPack makes of it. Three components: Library (what a
-# program needs to run, with the style plugin), Development (headers, CMake package, pkg-config file,
-# theme checker), Gallery.
+# What "cmake --install" puts where, and the .deb files that CPack makes of it. Four components: Library (what a
+# program needs to run, with the style plugin), Development (headers, CMake package, pkg-config file, theme
+# checker, plugin for Qt Designer), Gallery, PhotoDesk.
 
 include(CMakePackageConfigHelpers)
 
@@ -94,6 +94,11 @@ install(FILES ${PROJECT_BINARY_DIR}/VTWidgetsLite.pc
 vtwidgets_relative_rpath(VantraStylePlugin ${VTWIDGETS_QT_PLUGIN_DIR}/styles)
 install(TARGETS VantraStylePlugin
     LIBRARY DESTINATION ${VTWIDGETS_QT_PLUGIN_DIR}/styles COMPONENT Library)
+if(TARGET VantraDesignerPlugin)
+    vtwidgets_relative_rpath(VantraDesignerPlugin ${VTWIDGETS_QT_PLUGIN_DIR}/designer)
+    install(TARGETS VantraDesignerPlugin
+        LIBRARY DESTINATION ${VTWIDGETS_QT_PLUGIN_DIR}/designer COMPONENT Development)
+endif()
 if(TARGET vtwidgets-gallery)
     vtwidgets_relative_rpath(vtwidgets-gallery ${CMAKE_INSTALL_BINDIR})
     install(TARGETS vtwidgets-gallery RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Gallery)
@@ -106,6 +111,19 @@ if(TARGET vtwidgets-theme)
 endif()
 install(FILES Resources/Themes/theme.schema.json
     DESTINATION ${CMAKE_INSTALL_DATADIR}/VTWidgetsLite COMPONENT Development)
+
+# Everything that an installation needs built, and nothing else.
+add_custom_target(installed)
+foreach(target ${libraries} VantraStylePlugin VantraDesignerPlugin vtwidgets-gallery vtwidgets-theme PhotoDesk)
+    if(TARGET ${target})
+        add_dependencies(installed ${target})
+    endif()
+endforeach()
+
+if(TARGET PhotoDesk)
+    # It has its own rules to install; they go into its component.
+    vtwidgets_relative_rpath(PhotoDesk ${CMAKE_INSTALL_BINDIR})
+endif()
 
 # The fonts are inside the library, so their licences travel with it.
 install(FILES README.md DESTINATION ${documentDir} COMPONENT Development)
@@ -145,6 +163,9 @@ set(CPACK_COMPONENTS_ALL Library Development)
 if(TARGET vtwidgets-gallery)
     list(APPEND CPACK_COMPONENTS_ALL Gallery)
 endif()
+if(TARGET PhotoDesk)
+    list(APPEND CPACK_COMPONENTS_ALL PhotoDesk)
+endif()
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -158,7 +179,10 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS qt6-base-dev)
 set(CPACK_DEBIAN_GALLERY_PACKAGE_NAME vtwidgetslite-gallery)
 set(CPACK_DEBIAN_GALLERY_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_PHOTODESK_PACKAGE_NAME vtwidgetslite-photodesk)
+set(CPACK_DEBIAN_PHOTODESK_PACKAGE_SECTION graphics)
 include(CPack)
 cpack_add_component(Library DESCRIPTION "The library, its sibling libraries and the style plugin Vantra.")
 cpack_add_component(Development DEPENDS Library DESCRIPTION "Headers, CMake package, pkg-config file and the theme checker.")
 cpack_add_component(Gallery DEPENDS Library DESCRIPTION "A program that shows everything the library has.")
+cpack_add_component(PhotoDesk DEPENDS Library DESCRIPTION "A small photo editor that is built on the library.")

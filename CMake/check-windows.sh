@@ -41,7 +41,7 @@ done
 [[ -n $valijson ]] || { echo "check-windows: valijson/validator.hpp was not found" >&2; exit 2; }
 mkdir "$work/headers"
 ln -s "$valijson" "$work/headers/valijson"
-flags+=(-isystem "$work/headers" -I Applications)
+flags+=(-isystem "$work/headers" -I Applications -I Plugins)
 
 mapfile -t sources < <(find Source Plugins Applications Resources/Tools -name '*.cpp' ! -name '*_other.cpp' | sort)
 

@@ -50,6 +50,9 @@ function(vtwidgets_add_resources target)
         list(APPEND themes ${file})
     endforeach()
 
+    vtwidgets_translations(translations Source/Translations/VTWidgetsLite)
+
     # Uncompressed: the fonts are read at start-up, and TrueType shrinks little.
-    qt_add_resources(${target} VTWidgets PREFIX /VTWidgets FILES ${themes} ${fonts} OPTIONS --no-compress)
+    qt_add_resources(${target} VTWidgets PREFIX /VTWidgets FILES ${themes} ${fonts} ${translations}
+        OPTIONS --no-compress)
 endfunction()

@@ -4,6 +4,7 @@
 #include "Controls/VantraComboBox.h"
 #include "DrawnIcons.h"
 #include "StateSample.h"
+#include "Theme/VantraFont.h"
 #include "WidgetPicture.h"
 
 #include <QtCore/QEvent>
@@ -224,6 +225,13 @@ public:
 
     void refresh() override
     {
+        // These keep the font that they were made with.
+        const auto checkBoxes = findChildren<VantraCheckBox *>();
+        for (VantraCheckBox *box : checkBoxes)
+            box->setFont(VantraFont::mainFont());
+        const auto comboBoxes = findChildren<VantraComboBox *>();
+        for (VantraComboBox *box : comboBoxes)
+            box->setFont(VantraFont::mainFont());
         const auto pictures = findChildren<PopupPicture *>();
         for (PopupPicture *picture : pictures)
             picture->updateGeometry();

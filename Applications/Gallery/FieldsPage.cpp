@@ -163,11 +163,8 @@ public:
         addLineEdits("Line edit, no border", "A ground shows only under the pointer.",
                      VantraLineEditBase::BorderNone);
         addLineEdits("Line edit, highlight", "", VantraLineEditBase::BorderHighlight);
-        addLineEdits(
-            "Line edit, standard",
-            "A pill, over which the pointer lays the ground of the other styles. Text margins are the "
-            "program's own.",
-            VantraLineEditBase::BorderStandard);
+        addLineEdits("Line edit, standard", "A pill. Text margins are the program's own.",
+                     VantraLineEditBase::BorderStandard);
         addTextEdits(addSection(
             QStringLiteral("Text edit"),
             QStringLiteral("Return ends the editing and adds no line. Tab goes on to the next field.")));

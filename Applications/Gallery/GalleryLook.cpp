@@ -11,11 +11,11 @@
 #include <QtWidgets/QWidget>
 
 const std::array<GalleryLook::Accent, 5> GalleryLook::kAccents = {{
-    {"purple", VantraPalette::PurpleAccentButtonBackground},
-    {"red", VantraPalette::RedAccentButtonBackground},
-    {"green", VantraPalette::GreenAccentButtonBackground},
-    {"blue", VantraPalette::BlueAccentButtonBackground},
-    {"orange", VantraPalette::OrangeAccentButtonBackground},
+    {QT_TRANSLATE_NOOP("GalleryLook", "purple"), VantraPalette::PurpleAccentButtonBackground},
+    {QT_TRANSLATE_NOOP("GalleryLook", "red"), VantraPalette::RedAccentButtonBackground},
+    {QT_TRANSLATE_NOOP("GalleryLook", "green"), VantraPalette::GreenAccentButtonBackground},
+    {QT_TRANSLATE_NOOP("GalleryLook", "blue"), VantraPalette::BlueAccentButtonBackground},
+    {QT_TRANSLATE_NOOP("GalleryLook", "orange"), VantraPalette::OrangeAccentButtonBackground},
 }};
 
 void GalleryLook::setThemeFiles(const QString &inThemeFile, const QString &inAccentFile)

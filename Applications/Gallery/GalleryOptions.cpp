@@ -1,5 +1,6 @@
 #include "GalleryOptions.h"
 
+#include "GalleryLanguage.h"
 #include "GalleryPages.h"
 
 #include <QtCore/QCommandLineParser>
@@ -15,6 +16,7 @@ const QString kAccentFile = QStringLiteral("accent-file");
 const QString kTextSize = QStringLiteral("text-size");
 const QString kScale = QStringLiteral("scale");
 const QString kStyle = QStringLiteral("style");
+const QString kLanguage = QStringLiteral("language");
 const QString kContrast = QStringLiteral("contrast");
 const QString kDisabled = QStringLiteral("disabled");
 const QString kSection = QStringLiteral("section");
@@ -53,6 +55,10 @@ void addOptions(QCommandLineParser &ioParser)
              .arg(GalleryOptions::kMaximumScale),
          QStringLiteral("factor"), QStringLiteral("1")},
         {kStyle, QStringLiteral("Style: house or fusion."), QStringLiteral("name"), QStringLiteral("house")},
+        {kLanguage,
+         QStringLiteral("Language of the window and the controls: %1.")
+             .arg(GalleryLanguage::codes().join(QStringLiteral(", "))),
+         QStringLiteral("code"), QStringLiteral("en")},
         {kDisabled, QStringLiteral("Show the pages disabled.")},
         {kScreenshot, QStringLiteral("Write the whole page as a PNG and end. Needs no display."),
          QStringLiteral("file")},
@@ -105,6 +111,11 @@ QString readValues(const QCommandLineParser &inParser, GalleryOptions &ioOptions
             .arg(inParser.value(kScale))
             .arg(GalleryOptions::kMinimumScale)
             .arg(GalleryOptions::kMaximumScale);
+
+    ioOptions.language = inParser.value(kLanguage).toLower();
+    if (!GalleryLanguage::codes().contains(ioOptions.language))
+        return QStringLiteral("no language is called \"%1\"; the languages are %2")
+            .arg(inParser.value(kLanguage), GalleryLanguage::codes().join(QStringLiteral(", ")));
 
     const QString style = inParser.value(kStyle).toLower();
     if (style != QLatin1String("house") && style != QLatin1String("fusion"))

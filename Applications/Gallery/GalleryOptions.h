@@ -23,6 +23,8 @@ struct GalleryOptions
     // Documents in place of the library's own; empty for those.
     QString themeFile;
     QString accentFile;
+    // Of the gallery's own texts and the library's.
+    QString language;
     GalleryLook::Style style = GalleryLook::Style::House;
     bool enabled = true;
     // File or folder of the screenshots.

@@ -1,5 +1,6 @@
 #include "GalleryPages.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
 
 #include <iterator>
@@ -26,32 +27,30 @@ GalleryPage *makeSortingPage(QWidget *inParent);
 GalleryPage *makeMainWindowPage(QWidget *inParent);
 GalleryPage *makeMessageBoxesPage(QWidget *inParent);
 GalleryPage *makeProgressPage(QWidget *inParent);
-GalleryPage *makeMetricsPage(QWidget *inParent);
 
 namespace {
 constexpr GalleryPageEntry kPages[] = {
-    {"palette", "Palette", &makePalettePage},
-    {"type", "Type", &makeTypePage},
-    {"icons-and-tinting", "Icons and tinting", &makeIconsPage},
-    {"pictures", "Pictures", &makePicturesPage},
-    {"metrics", "Metrics", &makeMetricsPage},
-    {"standard-widgets", "Standard widgets", &makeStandardWidgetsPage},
-    {"sliders-and-ranges", "Sliders and ranges", &makeSlidersPage},
-    {"item-views", "Item views", &makeItemViewsPage},
-    {"scrolling", "Scrolling", &makeScrollingPage},
-    {"menus", "Menus", &makeMenusPage},
-    {"frames-and-panes", "Frames and panes", &makePanesPage},
-    {"buttons", "Buttons", &makeButtonsPage},
-    {"labels", "Labels", &makeLabelsPage},
-    {"tool-buttons", "Tool buttons", &makeToolButtonsPage},
-    {"tool-tips", "Tool tips", &makeToolTipsPage},
-    {"fields", "Fields", &makeFieldsPage},
-    {"check-and-combo-boxes", "Check and combo boxes", &makeBoxesPage},
-    {"sorting", "Sorting", &makeSortingPage},
-    {"main-window", "Main window", &makeMainWindowPage},
-    {"message-boxes", "Message boxes", &makeMessageBoxesPage},
-    {"progress", "Progress", &makeProgressPage},
-    {"metrics", "Metrics", &makeMetricsPage},
+    {"palette", QT_TRANSLATE_NOOP("GalleryPages", "Palette"), &makePalettePage},
+    {"type", QT_TRANSLATE_NOOP("GalleryPages", "Type"), &makeTypePage},
+    {"icons-and-tinting", QT_TRANSLATE_NOOP("GalleryPages", "Icons and tinting"), &makeIconsPage},
+    {"pictures", QT_TRANSLATE_NOOP("GalleryPages", "Pictures"), &makePicturesPage},
+    {"metrics", QT_TRANSLATE_NOOP("GalleryPages", "Metrics"), &makeMetricsPage},
+    {"standard-widgets", QT_TRANSLATE_NOOP("GalleryPages", "Standard widgets"), &makeStandardWidgetsPage},
+    {"sliders-and-ranges", QT_TRANSLATE_NOOP("GalleryPages", "Sliders and ranges"), &makeSlidersPage},
+    {"item-views", QT_TRANSLATE_NOOP("GalleryPages", "Item views"), &makeItemViewsPage},
+    {"scrolling", QT_TRANSLATE_NOOP("GalleryPages", "Scrolling"), &makeScrollingPage},
+    {"menus", QT_TRANSLATE_NOOP("GalleryPages", "Menus"), &makeMenusPage},
+    {"frames-and-panes", QT_TRANSLATE_NOOP("GalleryPages", "Frames and panes"), &makePanesPage},
+    {"buttons", QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &makeButtonsPage},
+    {"labels", QT_TRANSLATE_NOOP("GalleryPages", "Labels"), &makeLabelsPage},
+    {"tool-buttons", QT_TRANSLATE_NOOP("GalleryPages", "Tool buttons"), &makeToolButtonsPage},
+    {"tool-tips", QT_TRANSLATE_NOOP("GalleryPages", "Tool tips"), &makeToolTipsPage},
+    {"fields", QT_TRANSLATE_NOOP("GalleryPages", "Fields"), &makeFieldsPage},
+    {"check-and-combo-boxes", QT_TRANSLATE_NOOP("GalleryPages", "Check and combo boxes"), &makeBoxesPage},
+    {"sorting", QT_TRANSLATE_NOOP("GalleryPages", "Sorting"), &makeSortingPage},
+    {"main-window", QT_TRANSLATE_NOOP("GalleryPages", "Main window"), &makeMainWindowPage},
+    {"message-boxes", QT_TRANSLATE_NOOP("GalleryPages", "Message boxes"), &makeMessageBoxesPage},
+    {"progress", QT_TRANSLATE_NOOP("GalleryPages", "Progress"), &makeProgressPage},
 };
 } // namespace
 
@@ -64,6 +63,11 @@ const GalleryPageEntry &GalleryPages::at(int inIndex)
 {
     Q_ASSERT(inIndex >= 0 && inIndex < count());
     return kPages[inIndex];
+}
+
+QString GalleryPages::title(int inIndex)
+{
+    return QCoreApplication::translate("GalleryPages", at(inIndex).title);
 }
 
 int GalleryPages::indexOf(const QString &inName)

@@ -122,6 +122,8 @@ QStringList argumentsForOne(const GalleryOptions &inOptions, const QString &inPa
                              QStringLiteral("--style"),
                              inOptions.style == GalleryLook::Style::House ? QStringLiteral("house")
                                                                           : QStringLiteral("fusion"),
+                             QStringLiteral("--language"),
+                             inOptions.language,
                              QStringLiteral("--screenshot"),
                              inFile};
     if (!inOptions.enabled)

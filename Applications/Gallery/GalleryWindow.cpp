@@ -37,7 +37,7 @@ QFrame *makeLine(QFrame::Shape inShape)
 GalleryWindow::GalleryWindow(GalleryLook *inLook, QWidget *inParent)
     : VantraMainWindow(inParent), mLook(inLook)
 {
-    setWindowTitle(QStringLiteral("VTWidgetsLite gallery"));
+    setWindowTitle(tr("VTWidgetsLite gallery"));
     resize(kDefaultSize);
 
     mStack = new QStackedWidget;
@@ -81,10 +81,10 @@ QWidget *GalleryWindow::makeSidebar()
     mSidebar->setFrameShape(QFrame::NoFrame);
     mSidebar->setFixedWidth(kSidebarWidth);
     mSidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    mSidebar->setAccessibleName(QStringLiteral("Pages"));
+    mSidebar->setAccessibleName(tr("Pages"));
     mSidebar->setItemDelegate(new AiryDelegate(mSidebar));
     for (int index = 0; index < GalleryPages::count(); ++index)
-        mSidebar->addItem(QLatin1String(GalleryPages::at(index).title));
+        mSidebar->addItem(GalleryPages::title(index));
     connect(mSidebar, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
 
     auto *frame = new QWidget;
@@ -107,7 +107,7 @@ QWidget *GalleryWindow::makeStrip()
     layout->addSpacing(24);
     addStyles(layout);
     layout->addSpacing(24);
-    mEnabled = new QCheckBox(QStringLiteral("Enabled"));
+    mEnabled = new QCheckBox(tr("Enabled"));
     mEnabled->setChecked(true);
     connect(mEnabled, &QCheckBox::toggled, this, &GalleryWindow::setPagesEnabled);
     layout->addWidget(mEnabled);
@@ -117,7 +117,7 @@ QWidget *GalleryWindow::makeStrip()
 
 void GalleryWindow::addAccentButtons(QLayout *ioLayout)
 {
-    ioLayout->addWidget(new QLabel(QStringLiteral("Accent")));
+    ioLayout->addWidget(new QLabel(tr("Accent")));
     mAccents = new QButtonGroup(this);
     for (int index = 0; index < static_cast<int>(GalleryLook::kAccents.size()); ++index) {
         const QString name = QLatin1String(GalleryLook::kAccents[index].name);
@@ -125,8 +125,10 @@ void GalleryWindow::addAccentButtons(QLayout *ioLayout)
         button->setCheckable(true);
         button->setAutoRaise(true);
         button->setIconSize(QSize(kDotSize, kDotSize));
-        button->setToolTip(name);
-        button->setAccessibleName(name);
+        const QString shownName =
+            QCoreApplication::translate("GalleryLook", GalleryLook::kAccents[index].name);
+        button->setToolTip(shownName);
+        button->setAccessibleName(shownName);
         button->setChecked(name == mLook->accent() && !mLook->hasAccentFile());
         button->setEnabled(!mLook->hasAccentFile());
         mAccents->addButton(button, index);
@@ -139,21 +141,21 @@ void GalleryWindow::addAccentButtons(QLayout *ioLayout)
 void GalleryWindow::addTextSizes(QLayout *ioLayout)
 {
     auto *sizes = new QComboBox;
-    sizes->setAccessibleName(QStringLiteral("Text size"));
+    sizes->setAccessibleName(tr("Text size"));
     for (const int size : GalleryLook::kTextSizes)
-        sizes->addItem(size == 0 ? QStringLiteral("Normal") : QStringLiteral("+%1 points").arg(size), size);
+        sizes->addItem(size == 0 ? tr("Normal") : tr("+%1 points").arg(size), size);
     sizes->setCurrentIndex(sizes->findData(mLook->textSize()));
     connect(sizes, &QComboBox::activated, this,
             [this, sizes](int inIndex) { mLook->setTextSize(sizes->itemData(inIndex).toInt()); });
-    ioLayout->addWidget(new QLabel(QStringLiteral("Text size")));
+    ioLayout->addWidget(new QLabel(tr("Text size")));
     ioLayout->addWidget(sizes);
 }
 
 void GalleryWindow::addStyles(QLayout *ioLayout)
 {
     auto *styles = new QComboBox;
-    styles->setAccessibleName(QStringLiteral("Style"));
-    styles->addItem(QStringLiteral("House style"), static_cast<int>(GalleryLook::Style::House));
+    styles->setAccessibleName(tr("Style"));
+    styles->addItem(tr("House style"), static_cast<int>(GalleryLook::Style::House));
     styles->addItem(QStringLiteral("Fusion"), static_cast<int>(GalleryLook::Style::Fusion));
     styles->setCurrentIndex(styles->findData(static_cast<int>(mLook->style())));
     // Queued: the combo box is still closing its list when it says so, which a style swapped under it would
@@ -164,7 +166,7 @@ void GalleryWindow::addStyles(QLayout *ioLayout)
             mLook->setStyle(static_cast<GalleryLook::Style>(styles->itemData(inIndex).toInt()));
         },
         Qt::QueuedConnection);
-    ioLayout->addWidget(new QLabel(QStringLiteral("Style")));
+    ioLayout->addWidget(new QLabel(tr("Style")));
     ioLayout->addWidget(styles);
 }
 
@@ -224,7 +226,7 @@ void GalleryWindow::onLookChanged()
 
 void GalleryWindow::onThemeTroubled(const QString &inReason)
 {
-    mTrouble->setText(QStringLiteral("The last good theme is shown. %1").arg(inReason));
+    mTrouble->setText(tr("The last good theme is shown. %1").arg(inReason));
     mTrouble->setVisible(!inReason.isEmpty());
 }
 

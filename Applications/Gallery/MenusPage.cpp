@@ -247,7 +247,7 @@ public:
         grid.add(QStringLiteral("check marks"), new MenuPicture(makeCheckMenu()));
         grid.add(QStringLiteral("submenus and a section"), new MenuPicture(makeSubMenus()));
         pictures->addSpacing(8);
-        SampleGrid wide(pictures, 2, Qt::AlignBottom);
+        SampleGrid wide(pictures, 2, Qt::AlignTop);
         wide.add(QStringLiteral("shortcuts and long texts"), new MenuPicture(makeShortcutMenu()));
         wide.add(QStringLiteral("overlay menu with its submenu on a picture"),
                  new MenuPicture(makeOverlayMenu(), MenuPicture::Photograph));

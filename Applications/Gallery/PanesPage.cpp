@@ -205,6 +205,17 @@ public:
         addFrames(addSection(QStringLiteral("Frames")));
         addSection(QStringLiteral("Overlay frame on a picture"))->addWidget(makeOverlay(), 0, Qt::AlignLeft);
     }
+
+    void refresh() override
+    {
+        // These keep the font that they were made with.
+        const auto checkBoxes = findChildren<VantraCheckBox *>();
+        for (VantraCheckBox *box : checkBoxes)
+            box->setFont(VantraFont::mainFont());
+        const auto comboBoxes = findChildren<VantraComboBox *>();
+        for (VantraComboBox *box : comboBoxes)
+            box->setFont(VantraFont::mainFont());
+    }
 };
 } // namespace
 

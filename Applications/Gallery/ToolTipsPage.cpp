@@ -48,6 +48,17 @@ Tool *makeTool(const Lesson &inLesson, Tool::ToolTipDirection inDirection)
     return button;
 }
 
+QList<QMovie *> standingMovies(const QWidget *inWidget)
+{
+    QList<QMovie *> movies;
+    const auto labels = inWidget->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->movie() != nullptr)
+            movies << label->movie();
+    }
+    return movies;
+}
+
 // A tip as it opens over a tool bar, standing in the page.
 QWidget *makeStandingTip(const Lesson &inLesson, QWidget *inParent)
 {
@@ -60,10 +71,10 @@ QWidget *makeStandingTip(const Lesson &inLesson, QWidget *inParent)
     frame->setParent(inParent, Qt::Widget);
     frame->setFixedSize(frame->sizeHint());
     CommonTransition::addDropShadow(frame);
-    const auto labels = frame->findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        for (int index = 0; label->movie() != nullptr && index < inLesson.tellingFrame; ++index)
-            label->movie()->jumpToNextFrame();
+    const auto movies = standingMovies(frame);
+    for (QMovie *movie : movies) {
+        for (int index = 0; index < inLesson.tellingFrame; ++index)
+            movie->jumpToNextFrame();
     }
     return frame;
 }
@@ -105,7 +116,27 @@ public:
         addStandingTips();
     }
 
+protected:
+    void showEvent(QShowEvent *inEvent) override
+    {
+        setPaused(false);
+        GalleryPage::showEvent(inEvent);
+    }
+    void hideEvent(QHideEvent *inEvent) override
+    {
+        setPaused(true);
+        GalleryPage::hideEvent(inEvent);
+    }
+
 private:
+    // Nobody sees the movies of a page that is not shown.
+    void setPaused(bool inPaused)
+    {
+        const auto movies = standingMovies(this);
+        for (QMovie *movie : movies)
+            movie->setPaused(inPaused);
+    }
+
     void addTop()
     {
         QHBoxLayout *row = addRow(

@@ -1,4 +1,5 @@
 #include "DrawnIcons.h"
+#include "GalleryLanguage.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryScreenshot.h"
@@ -51,8 +52,7 @@ std::optional<int> runWithoutWindows(int inCount, char **inValues, GalleryOption
 }
 
 // For pictures without a window system. Its own screen is 800 pixels wide, too little for dialogs at a scale
-// of
-// 2. The file describes the screen and is read when the application starts.
+// of 2. The file describes the screen and is read when the application starts.
 void takeLargeScreen(QTemporaryFile &ioFile)
 {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
@@ -92,6 +92,7 @@ int main(int argc, char **argv)
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setWindowIcon(DrawnIcons::application());
 
+    GalleryLanguage::install(options.language);
     GalleryLook look;
     look.setThemeFiles(options.themeFile, options.accentFile);
     const QString trouble = look.start(options.accent, options.textSize, options.style);

@@ -14,9 +14,6 @@
 
 using B = VantraButton;
 
-Q_DECLARE_METATYPE(QList<bool>)
-Q_DECLARE_METATYPE(QList<B::ButtonStyle>)
-
 namespace {
 
 // Gives out what it tells the style.
@@ -101,8 +98,7 @@ private slots:
     }
     void recordTellsTheStyleEverything();
     void layoutRectangleFollowsTheStyle();
-    void textOnlyIsASwitch();
-    void hintIsTheStylesMeasure();
+    void hintBeforeAnyLayoutIsSane();
     void disabledButtonLetsTheMouseThrough();
     void doubleClickPressesAgain();
     void buttonMayBeDeletedByItsSecondPress();
@@ -118,7 +114,6 @@ private slots:
     void badgeMovesToANewParent();
     void badgeEndsWithItsParent();
     void badgeOfADeletedButtonIsHidden();
-    void badgeIsTurnedOff();
     void descriptionTellsTheCount();
     void accessibilityIsAButtons();
     void badgeNeedsAParent();
@@ -158,26 +153,18 @@ void tst_VantraButton::layoutRectangleFollowsTheStyle()
     QVERIFY(!button.testAttribute(Qt::WA_LayoutUsesWidgetRect));
 }
 
-void tst_VantraButton::textOnlyIsASwitch()
+void tst_VantraButton::hintBeforeAnyLayoutIsSane()
 {
-    VantraButton button;
-    button.setProperty("textOnlyButtonStyle", true);
-    QCOMPARE(button.buttonStyle(), B::TextOnlyStyle);
-    button.setButtonStyle(B::LinkButtonStyle);
-    button.setTextOnlyButtonStyle(false);
-    QCOMPARE(button.buttonStyle(), B::LeftAndRightCapButtonStyle);
-}
-
-void tst_VantraButton::hintIsTheStylesMeasure()
-{
-    OpenButton button;
-    for (const char *text : {"", "Save", "Save all pictures & albums"}) {
-        button.setText(QLatin1String(text));
-        VantraStyleOptionButton record;
-        button.initStyleOption(&record);
-        QCOMPARE(button.sizeHint(),
-                 button.style()->sizeFromContents(QStyle::CT_PushButton, &record, QSize(0, 0), &button));
+    QWidget parent;
+    VantraButton child(&parent);
+    VantraButton free;
+    for (VantraButton *button : {&child, &free}) {
+        button->setText(QStringLiteral("Save & close"));
     }
+    QCOMPARE(free.sizeHint(), child.sizeHint());
+    QVERIFY(free.sizeHint().width() < 200);
+    free.show();
+    QCOMPARE(free.height(), free.sizeHint().height());
 }
 
 void tst_VantraButton::disabledButtonLetsTheMouseThrough()
@@ -226,16 +213,12 @@ void tst_VantraButton::tabGroupCountsVisibleButtons_data()
     constexpr auto kRight = B::RightCapTabButtonStyle;
     QTest::addColumn<QList<bool>>("visible");
     QTest::addColumn<QList<B::ButtonStyle>>("styles");
-    const auto row = [](const char *inName, const QList<bool> &inVisible,
-                        const QList<B::ButtonStyle> &inStyles) {
-        QTest::newRow(inName) << inVisible << inStyles;
-    };
-    row("none", {}, {});
-    row("all hidden", {false, false}, {kNone, kNone});
-    row("one of five", {false, false, true, false, false}, {kNone, kNone, kBoth, kNone, kNone});
-    row("two", {true, true}, {kLeft, kRight});
-    row("two at the ends", {true, false, true}, {kLeft, kNone, kRight});
-    row("four", {true, true, true, true}, {kLeft, kInner, kInner, kRight});
+    using Shown = QList<bool>;
+    using Styles = QList<B::ButtonStyle>;
+    QTest::newRow("none") << Shown() << Styles();
+    QTest::newRow("one of three") << Shown{false, true, false} << Styles{kNone, kBoth, kNone};
+    QTest::newRow("two at the ends") << Shown{true, false, true} << Styles{kLeft, kNone, kRight};
+    QTest::newRow("four") << Shown(4, true) << Styles{kLeft, kInner, kInner, kRight};
 }
 
 void tst_VantraButton::tabGroupCountsVisibleButtons()
@@ -416,18 +399,6 @@ void tst_VantraButton::badgeOfADeletedButtonIsHidden()
     delete scene.button;
     QVERIFY(scene.badge() != nullptr);
     QVERIFY(scene.badge()->isHidden());
-}
-
-void tst_VantraButton::badgeIsTurnedOff()
-{
-    Scene scene;
-    scene.enableBadge(7);
-    scene.button->setNotificationBadgeEnabled(false);
-    QVERIFY(scene.badge() == nullptr);
-    QCOMPARE(scene.button->notificationBadgeCount(), 0);
-    scene.enableBadge(3);
-    QCOMPARE(scene.findChildren<VantraLabel *>().size(), 1);
-    QCOMPARE(scene.badge()->text(), QStringLiteral("3"));
 }
 
 void tst_VantraButton::descriptionTellsTheCount()

@@ -36,38 +36,27 @@ class tst_VantraCheckBox : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(ThemeFixture::load()); }
-    void textIsCutToTheRoom_data();
     void textIsCutToTheRoom();
     void isOneAndAHalfLinesHigh();
-    void signalsCanBeBlocked();
     void disabledLetsTheMouseThrough();
     void accessibleAndWorksByKeyboard();
 };
 
-void tst_VantraCheckBox::textIsCutToTheRoom_data()
-{
-    QTest::addColumn<bool>("elide");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("cut");
-    QTest::newRow("off") << false << 100 << false;
-    QTest::newRow("on") << true << 100 << true;
-    QTest::newRow("on, fits") << true << 600 << false;
-}
-
 void tst_VantraCheckBox::textIsCutToTheRoom()
 {
-    QFETCH(const bool, elide);
-    QFETCH(const int, width);
-    QFETCH(const bool, cut);
     RecordingStyle style;
     VantraCheckBox box;
     box.setStyle(&style);
     box.setText(kLongText);
-    box.resize(width, 24);
-    box.setProperty("elideTextEnabled", elide);
+    box.resize(100, 24);
     box.grab();
-    QCOMPARE(style.text.endsWith(QChar(0x2026)), cut);
-    QCOMPARE(style.text == kLongText, !cut);
+    QCOMPARE(style.text, kLongText);
+    box.setProperty("elideTextEnabled", true);
+    box.grab();
+    QVERIFY(style.text.endsWith(QChar(0x2026)));
+    box.resize(600, 24);
+    box.grab();
+    QCOMPARE(style.text, kLongText);
 }
 
 void tst_VantraCheckBox::isOneAndAHalfLinesHigh()
@@ -81,18 +70,6 @@ void tst_VantraCheckBox::isOneAndAHalfLinesHigh()
     QVERIFY(box.minimumSizeHint().height() >= line + (line + 1) / 2);
 }
 
-void tst_VantraCheckBox::signalsCanBeBlocked()
-{
-    VantraCheckBox box;
-    box.setTristate(true);
-    QSignalSpy spy(&box, &QCheckBox::stateChanged);
-    box.setCheckStateAndBlockSignals(Qt::PartiallyChecked);
-    QCOMPARE(box.checkState(), Qt::PartiallyChecked);
-    QCOMPARE(spy.count(), 0);
-    box.setCheckState(Qt::Checked);
-    QCOMPARE(spy.count(), 1);
-}
-
 void tst_VantraCheckBox::disabledLetsTheMouseThrough()
 {
     QWidget window;
@@ -101,8 +78,13 @@ void tst_VantraCheckBox::disabledLetsTheMouseThrough()
     QVERIFY(UserActions::showActive(window));
     QCOMPARE(window.childAt(box->geometry().center()), nullptr);
     box->setEnabled(true);
+    QSignalSpy spy(box, &QCheckBox::toggled);
     UserActions::click(box, QPoint(8, box->height() / 2));
     QVERIFY(box->isChecked());
+    QCOMPARE(spy.count(), 1);
+    box->setCheckStateAndBlockSignals(Qt::Unchecked);
+    QVERIFY(!box->isChecked());
+    QCOMPARE(spy.count(), 1);
 }
 
 void tst_VantraCheckBox::accessibleAndWorksByKeyboard()

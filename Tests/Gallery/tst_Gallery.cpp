@@ -132,6 +132,7 @@ private slots:
         row("accent that is no JSON", {QStringLiteral("--accent-file"), file});
         row("scale 0", {QStringLiteral("--scale"), QStringLiteral("0")});
         row("scale nan", {QStringLiteral("--scale"), QStringLiteral("nan")});
+        row("language", {QStringLiteral("--language"), QStringLiteral("tlh")});
         row("style", {QStringLiteral("--style"), QStringLiteral("rococo")});
         row("section without a picture", {QStringLiteral("--section"), QStringLiteral("Weights")});
         row("file in no folder", {QStringLiteral("--screenshot"), nowhere});
@@ -174,6 +175,27 @@ private slots:
         QVERIFY(dialogs.width() < 900);
         QCOMPARE(picture(QStringLiteral("Dialog")), dialogs);
         QVERIFY(picture(QStringLiteral("Carpets")).isNull());
+    }
+
+    void languageReachesTheWindow()
+    {
+        if (!gallery({QStringLiteral("--help")}, true).out.contains(QStringLiteral("en, de"))) {
+            QSKIP("built without translations");
+        }
+        QImage pictures[2];
+        for (const bool german : {false, true}) {
+            const QString file = mFolder.filePath(QStringLiteral("language.png"));
+            const QString code = german ? QStringLiteral("de") : QStringLiteral("en");
+            const Result result =
+                gallery({QStringLiteral("--page"), QStringLiteral("type"), QStringLiteral("--language"), code,
+                         QStringLiteral("--screenshot"), file});
+            QCOMPARE(result.exitCode, 0);
+            QVERIFY(pictures[german].load(file));
+        }
+        QCOMPARE(pictures[0].size(), pictures[1].size());
+        // The row of this page in the sidebar, the first but one.
+        const QRect row(0, 40, 200, 40);
+        QVERIFY(pictures[0].copy(row) != pictures[1].copy(row));
     }
 
     void picturesEveryPageWithoutRed()

@@ -24,6 +24,9 @@ c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$work/headers.cpp" "${flags[
 [[ -n $(find "$work/moved/share/doc" -name '*font-awesome*') ]] ||
     { echo "install_and_use: the fonts' licences are missing" >&2; exit 1; }
 QT_QPA_PLATFORM=offscreen "$work/moved/bin/vtwidgets-gallery" --list-pages >/dev/null
+mkdir "$work/exported"
+env -u DISPLAY "$work/moved/bin/PhotoDesk" --export "$work/exported" --preset Silver "$work/moved/share/PhotoDesk" >/dev/null
+[[ $(ls "$work/exported" | wc -l) == 3 ]] || { echo "install_and_use: PhotoDesk exported nothing" >&2; exit 1; }
 [[ -f $work/moved/share/VTWidgetsLite/theme.schema.json ]]
 if [[ -x $build/bin/vtwidgets-theme ]]; then
     "$work/moved/bin/vtwidgets-theme" list >/dev/null

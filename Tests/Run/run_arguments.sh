@@ -34,7 +34,7 @@ refuses '"--opne"' docs --opne
 refuses '"soon"' fuzz soon
 
 "$run" help >"$work/help" || fail "run help failed"
-for command in gallery test bench check-windows package docs pictures format fuzz; do
+for command in gallery photodesk test bench check-windows package docs pictures format fuzz; do
     grep -q "^\./run $command" "$work/help" || fail "run help does not name $command"
 done
 

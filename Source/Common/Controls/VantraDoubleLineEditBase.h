@@ -24,10 +24,11 @@ class QDoubleValidator;
 class VTWIDGETSLITE_EXPORT VantraDoubleLineEditBase : public VantraLineEditBase
 {
     Q_OBJECT
-    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
     Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    // After those that bound it: forms write and set properties in this order.
+    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
     explicit VantraDoubleLineEditBase(QWidget *inParent = nullptr);

@@ -91,7 +91,10 @@ void VantraLineEditBase::paintEvent(QPaintEvent *event)
     initStyleOption(&option);
     option.borderStyle = mBorderStyle;
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+    // The base class paints a panel too, without the border style.
+    mPanelIsPainted = true;
     QLineEdit::paintEvent(event);
+    mPanelIsPainted = false;
 }
 
 void VantraLineEditBase::initStyleOption(QStyleOptionFrame *option) const
@@ -100,6 +103,10 @@ void VantraLineEditBase::initStyleOption(QStyleOptionFrame *option) const
     if (option != nullptr) {
         option->state &= ~QStyle::State_Sunken;
         VantraEditLook::setTextColor(option);
+        if (mPanelIsPainted) {
+            // Not under the pointer, a panel without border is bare.
+            option->state &= ~QStyle::State_MouseOver;
+        }
     }
 }
 

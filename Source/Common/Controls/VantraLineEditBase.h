@@ -26,7 +26,7 @@ public:
     enum BorderStyle {
         BorderNone = 0,      // a ground only while hovered
         BorderHighlight = 1, // always a ground
-        BorderStandard = 2,  // a pill, covered by the others' ground while hovered; set text margins to suit
+        BorderStandard = 2,  // a pill; set text margins to suit
     };
     Q_ENUM(BorderStyle)
 
@@ -70,4 +70,5 @@ private:
     BorderStyle mBorderStyle = BorderNone;
     bool mExcludeLocaleGroupSeparator = true;
     bool mSelectAllOnFocus = false;
+    bool mPanelIsPainted = false; // and the base class is about to paint the text over it
 };

@@ -75,6 +75,8 @@ VantraToolTip::~VantraToolTip() = default;
 void VantraToolTip::showAndPosition(const QString &inImage, const QString &inTitle, const QString &inDetailed,
                                     const QString &inUrl, QPoint inGlobalPos, VantraToolButton *inButton)
 {
+    // Assistive technology would otherwise read out the window's title.
+    setAccessibleName(inTitle);
     mContent->setToolTip(inImage, inTitle, inDetailed, inUrl);
     setFixedSize(sizeHint());
     setMinimumSize(sizeHint());

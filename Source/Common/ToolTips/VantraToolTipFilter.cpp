@@ -38,6 +38,10 @@ VantraToolTipFilter::~VantraToolTipFilter()
 {
     disconnect(mTimer, &QTimer::timeout, this, &VantraToolTipFilter::onToolTipTimeout);
     delete mToolTip.data();
+    // The library may be unloaded before the application ends.
+    if (sLastToolTip.isNull()) {
+        qRemovePostRoutine(&deleteLastToolTip);
+    }
 }
 
 bool VantraToolTipFilter::eventFilter(QObject *object, QEvent *event)
@@ -60,7 +64,7 @@ void VantraToolTipFilter::openToolTip(VantraToolButton *inButton, const QHelpEve
     mButtonRect = QRect(inButton->mapToGlobal(QPoint(0, 0)), inButton->size());
     dismissToolTip();
     mToolTip = new VantraToolTip;
-    // Post routines run once for each application; a second entry would do no more than the first.
+    // One entry is enough, and the end of an application takes it off the list.
     qRemovePostRoutine(&deleteLastToolTip);
     qAddPostRoutine(&deleteLastToolTip);
     sLastToolTip = mToolTip;

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Draws the gallery's two animated tool tips and writes them beside this script.
+"""Draws the programs' animated tool tips and writes them beside this script.
 
-    python3 Applications/Gallery/ToolTips/make_tips.py
+    python3 Applications/ToolTips/make_tips.py
 
 Needs Python alone. The pictures are in double resolution: 640 by 360 pixels, shown at 320 by 180. A display of
 single resolution shows every second pixel, so edges are softened over two pixels instead of one.
@@ -121,6 +121,30 @@ def crop_frames(photograph):
         frames.append((image, FRAME_TIME))
     frames[-1] = (frames[-1][0], FRAME_TIME * 22)
     return frames
+
+
+def compare_frames(photograph):
+    """A line goes to and fro between the photograph and a brighter, warmer form of it."""
+    steps = 34
+    after = [[tuple(min(255.0, channel * gain) for channel, gain in zip(pixel, (1.45, 1.25, 1.0)))
+              for pixel in row] for row in photograph]
+    frames = []
+    for step in range(steps):
+        line = 320 + 2 * int(90 * math.sin(step / steps * 2 * math.pi))
+        image = [before[:line] + changed[line:] for before, changed in zip(photograph, after)]
+        box(image, line - 2, 0, line + 2, HEIGHT, WHITE)
+        disc(image, (line, HEIGHT // 2), 11, WHITE)
+        frames.append((image, FRAME_TIME * (6 if step == 0 else 1)))
+    return frames
+
+
+def inspect_frames(photograph):
+    """The sun's light and the nearest hills' shadow are marked, again and again."""
+    marked = []
+    for row in photograph:
+        marked.append([(255, 50, 50) if sum(pixel) > 590 else (60, 110, 255) if sum(pixel) < 125 else pixel
+                       for pixel in row])
+    return [(photograph, FRAME_TIME * 12), (marked, FRAME_TIME * 16)]
 
 
 def crop_handles(image, left, top, right, bottom):
@@ -244,6 +268,8 @@ def main():
     photograph = landscape()
     write(folder / "brush@2x.gif", brush_frames(photograph))
     write(folder / "crop@2x.gif", crop_frames(photograph))
+    write(folder / "compare@2x.gif", compare_frames(photograph))
+    write(folder / "inspect@2x.gif", inspect_frames(photograph))
 
 
 if __name__ == "__main__":
