@@ -138,7 +138,8 @@ QString readTask(const QCommandLineParser &inParser, GalleryOptions &ioOptions)
         ioOptions.task = GalleryOptions::Task::Contrast;
     }
     if (inParser.isSet(kSection) && !(one && inParser.isSet(kPage)))
-        return QStringLiteral("--section goes with --screenshot and --page");
+        return QStringLiteral("the section \"%1\" goes with --screenshot and --page")
+            .arg(inParser.value(kSection));
     ioOptions.section = inParser.value(kSection);
     if (one && all)
         return QStringLiteral("--screenshot and --all-screenshots can't be had together");

@@ -134,6 +134,7 @@ private slots:
         row("scale nan", {QStringLiteral("--scale"), QStringLiteral("nan")});
         row("language", {QStringLiteral("--language"), QStringLiteral("tlh")});
         row("style", {QStringLiteral("--style"), QStringLiteral("rococo")});
+        row("section without a picture", {QStringLiteral("--section"), QStringLiteral("Weights")});
         row("file in no folder", {QStringLiteral("--screenshot"), nowhere});
         row("folder that is a file", {QStringLiteral("--all-screenshots"), file});
         row("option without its value", {QStringLiteral("--page")});
@@ -157,6 +158,23 @@ private slots:
             gallery({QStringLiteral("--page"), QStringLiteral("TYPE"), QStringLiteral("--screenshot"), file});
         QCOMPARE(result.exitCode, 0);
         QVERIFY(!QImage(file).isNull());
+    }
+
+    void picturesOneSectionTheSameEachTime()
+    {
+        const auto picture = [this](const QString &inSection) {
+            const QString file = mFolder.filePath(QStringLiteral("section.png"));
+            QFile::remove(file);
+            const Result result =
+                gallery({QStringLiteral("--page"), QStringLiteral("progress"), QStringLiteral("--section"),
+                         inSection, QStringLiteral("--screenshot"), file});
+            return result.exitCode == 0 ? QImage(file) : QImage();
+        };
+        const QImage dialogs = picture(QStringLiteral("dialog"));
+        QVERIFY(!dialogs.isNull());
+        QVERIFY(dialogs.width() < 900);
+        QCOMPARE(picture(QStringLiteral("Dialog")), dialogs);
+        QVERIFY(picture(QStringLiteral("Carpets")).isNull());
     }
 
     void languageReachesTheWindow()
