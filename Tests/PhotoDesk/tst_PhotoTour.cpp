@@ -13,6 +13,7 @@
 #include "Progress/VantraProgressBaseDlg.h"
 #include "Progress/VantraProgressMgr.h"
 #include "Support/Watchdog.h"
+#include "ToolTips/VantraToolTip.h"
 #include "Window/VantraMessageBox.h"
 
 #include <QtTest/QtTest>
@@ -40,6 +41,7 @@ public:
     }
     void rest() { mLast = -1; }
     qint64 largest() const { return mLargest; }
+    const QByteArray &where() const { return mWhere; }
 
 protected:
     void timerEvent(QTimerEvent *) override
@@ -48,16 +50,24 @@ protected:
         const bool modal = QApplication::activeModalWidget() != nullptr ||
                            VantraProgressMgr::sharedInstance()->progressRunning();
         if (mLast >= 0 && !modal && !mWasModal)
-            mLargest = std::max(mLargest, now - mLast - kInterval);
+            note(now - mLast - kInterval);
         mWasModal = modal;
         mLast = now;
     }
 
 private:
+    void note(qint64 inLate)
+    {
+        if (inLate > mLargest) {
+            mLargest = inLate;
+            mWhere = QTest::currentTestFunction();
+        }
+    }
     static constexpr int kInterval = 5;
     QElapsedTimer mClock;
     qint64 mLast = -1;
     qint64 mLargest = 0;
+    QByteArray mWhere;
     bool mWasModal = false;
 };
 } // namespace
@@ -74,6 +84,7 @@ private slots:
     void slidersAndFieldsGoTogether();
     void undoTakesDragsBackWhole();
     void viewsShowTheSamePhoto();
+    void toolsTellWhatTheyDo();
     void curveTakesPoints();
     void panesCollapse();
     void crops();
@@ -261,6 +272,7 @@ void tst_PhotoTour::viewsShowTheSamePhoto()
     const double fitted = canvas->zoom();
     QTest::keyClick(mWindow.get(), Qt::Key_1, Qt::ControlModifier);
     QCOMPARE(canvas->zoom(), 1.0);
+    canvas->setZoom(4.0);
     const QPoint middle = canvas->rect().center();
     const QPointF before = canvas->photoRect().topLeft();
     drag(canvas, middle, middle + QPoint(-60, -40));
@@ -274,6 +286,32 @@ void tst_PhotoTour::viewsShowTheSamePhoto()
     QTest::keyClick(menu, Qt::Key_Escape);
     QTest::keyClick(mWindow.get(), Qt::Key_0, Qt::ControlModifier);
     QCOMPARE(canvas->zoom(), fitted);
+}
+
+void tst_PhotoTour::toolsTellWhatTheyDo()
+{
+    for (const QString &name :
+         {QStringLiteral("crop"), QStringLiteral("compare"), QStringLiteral("inspect")}) {
+        auto *button = find<VantraToolButton>(name);
+        const QPoint middle = button->rect().center();
+        QHelpEvent hover(QEvent::ToolTip, middle, button->mapToGlobal(middle));
+        QCoreApplication::sendEvent(button, &hover);
+        VantraToolTip *tip = nullptr;
+        const auto isOpen = [&tip] {
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                if (widget->isVisible() && qobject_cast<VantraToolTip *>(widget) != nullptr)
+                    tip = static_cast<VantraToolTip *>(widget);
+            }
+            return tip != nullptr;
+        };
+        QTRY_VERIFY(isOpen());
+        QTest::qWait(200);
+        picture(QStringLiteral("tip-") + name, tip);
+        QTest::mouseMove(mWindow->canvas());
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(button, &leave);
+        tip->close();
+    }
 }
 
 void tst_PhotoTour::curveTakesPoints()
@@ -470,7 +508,8 @@ void tst_PhotoTour::quitAsksForUnsavedChanges()
 void tst_PhotoTour::cleanupTestCase()
 {
     const qint64 largest = mLatency->largest();
-    qInfo("Largest latency of the event loop outside modal operations: %lld ms", largest);
+    qInfo("Largest latency of the event loop outside modal operations: %lld ms, in %s", largest,
+          mLatency->where().constData());
     mLatency.reset();
     mWindow.reset();
 #if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__)
