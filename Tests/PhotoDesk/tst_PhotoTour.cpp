@@ -78,7 +78,7 @@ class tst_PhotoTour : public QObject
 
 private slots:
     void initTestCase();
-    void init() { mWatchdog.emplace(120); }
+    void init();
     void cleanup() { mWatchdog.reset(); }
     void opensPhotosAndTellsOfOthers();
     void slidersAndFieldsGoTogether();
@@ -141,6 +141,15 @@ void tst_PhotoTour::initTestCase()
     mWindow->show();
     QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
     mLatency = std::make_unique<LatencyMeter>();
+}
+
+void tst_PhotoTour::init()
+{
+    mWatchdog.emplace(120);
+    // A display without a window manager leaves nothing active behind a modal dialog.
+    mWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    mWindow->canvas()->setFocus();
 }
 
 void tst_PhotoTour::picture(const QString &inName, QWidget *inWidget)
@@ -359,6 +368,7 @@ void tst_PhotoTour::crops()
     QVERIFY(crop.width() < 0.8 && crop.height() < 0.85);
     QVERIFY(!find<VantraToolButton>(QStringLiteral("crop"))->isChecked());
     pressKey(Qt::Key_C);
+    QTRY_VERIFY(frame->isVisible());
     QTest::keyClick(frame, Qt::Key_Escape);
     QCOMPARE(photo()->adjustments().crop, crop);
     picture(QStringLiteral("cropped"));
@@ -368,10 +378,11 @@ void tst_PhotoTour::turnsTheCropAlong()
 {
     const QRectF crop = photo()->adjustments().crop;
     pressKey(Qt::Key_R);
-    QCOMPARE(photo()->adjustments().quarterTurns, 1);
+    QTRY_COMPARE(photo()->adjustments().quarterTurns, 1);
     QVERIFY(qAbs(photo()->adjustments().crop.width() - crop.height()) < 1e-9);
     picture(QStringLiteral("turned"));
     pressKey(Qt::Key_L);
+    QTRY_COMPARE(photo()->adjustments().quarterTurns, 0);
     QVERIFY(qAbs(photo()->adjustments().crop.left() - crop.left()) < 1e-9);
 }
 
@@ -472,6 +483,8 @@ void tst_PhotoTour::dropsFolders()
     QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(mWindow.get(), &drop);
     QTRY_COMPARE(mWindow->model()->rowCount(), before + kCopies + 4);
+    mWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
     QTest::keyClick(mWindow.get(), Qt::Key_W, Qt::ControlModifier);
     QCOMPARE(mWindow->model()->rowCount(), before + kCopies + 3);
     QVERIFY(photo() != nullptr);
@@ -480,6 +493,7 @@ void tst_PhotoTour::dropsFolders()
 void tst_PhotoTour::quitAsksForUnsavedChanges()
 {
     pressKey(Qt::Key_R);
+    QTRY_VERIFY(photo()->waitsForExport());
     const auto answer = [this](const QString &inPicture, std::function<void(VantraMessageBox *)> inDo) {
         inDialog([this, inPicture, inDo](QWidget *inDialog) {
             auto *box = qobject_cast<VantraMessageBox *>(inDialog);
@@ -494,6 +508,8 @@ void tst_PhotoTour::quitAsksForUnsavedChanges()
            [](VantraMessageBox *inBox) { QTest::keyClick(inBox, Qt::Key_Escape); });
     QTest::keyClick(mWindow.get(), Qt::Key_Q, Qt::ControlModifier);
     QVERIFY(mWindow->isVisible());
+    mWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
     Look::setTextSize(4);
     Look::setAccent(QStringLiteral("orange"));
     picture(QStringLiteral("large-text"));
