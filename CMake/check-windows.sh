@@ -24,7 +24,7 @@ done >>"$work/windows.h.in"
 mv "$work/windows.h.in" "$work/qt_on_windows.h"
 
 flags=(-std=c++17 -fsyntax-only -Wall -Wextra -Wnon-virtual-dtor -Werror -DUNICODE -D_UNICODE
-    -DQT_FORCE_ASSERTS -DQT_NO_CAST_TO_ASCII -DQT_NO_FOREACH -DVTWIDGETS_VERSION='""'
+    -DQT_FORCE_ASSERTS -DQT_NO_CAST_TO_ASCII -DQT_NO_FOREACH -DVTWIDGETS_VERSION='""' -DPHOTODESK_VERSION='""' -DPHOTODESK_SAMPLES='""'
     -isystem "$qt" -isystem "$qt/QtCore" -isystem "$qt/QtGui" -isystem "$qt/QtWidgets"
     -include "$work/qt_on_windows.h" -I "$work/moc" -I Source/Common -I Source/Platform)
 for folder in Source/Common/*/ Source/Platform/*/; do

@@ -91,7 +91,8 @@ void PhotoWindow::makeFileMenu(VantraMenuBar *ioBar)
     QAction *exportAll = menu->addAction(tr("Export All Edited…"), QKeySequence(tr("Ctrl+Shift+E")), this,
                                          [this] { exportPhotos(mModel->photosToExport()); });
     menu->addSeparator();
-    QAction *close = menu->addAction(tr("Close Photo"), QKeySequence::Close, this, &PhotoWindow::closePhoto);
+    QAction *close =
+        menu->addAction(tr("Close Photo"), QKeySequence(tr("Ctrl+W")), this, &PhotoWindow::closePhoto);
     menu->addAction(tr("Quit"), QKeySequence(tr("Ctrl+Q")), this, &QWidget::close);
     // Raised before a key triggers one of the actions, too.
     connect(menu, &QMenu::aboutToShow, this, [this, exportOne, exportAll, close] {
