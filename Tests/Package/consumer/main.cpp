@@ -1,8 +1,8 @@
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
 #include <VTDpiUtils.h>
 #include <VTWidgetsLiteVersion.h>
 #include <VantraFramePane.h>
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
 #include <cstdio>
 
 #include "Style/VantraStyle.h"
