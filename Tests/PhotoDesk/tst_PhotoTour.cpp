@@ -426,12 +426,14 @@ void tst_PhotoTour::batchExportIsCanceledInTheMiddle()
     QCOMPARE(waiting, kCopies + 4);
     picture(QStringLiteral("waiting"));
     const QString out = mFolder.filePath(QStringLiteral("out"));
+    bool told = false;
     VantraProgressMgr::sharedInstance()->setDelayBeforeShowDialog(0);
     inDialog([&](QWidget *inDialog) {
         auto *dialog = qobject_cast<VantraProgressBaseDlg *>(inDialog);
-        if (dialog == nullptr || QDir(out).entryList(QDir::Files).size() < 3)
+        if (dialog == nullptr || QDir(out).entryList(QDir::Files).size() < kCopies / 2)
             return false;
         picture(QStringLiteral("exporting"), dialog);
+        told = dialog->findChild<QProgressBar *>()->value() > 0;
         QTest::keyClick(dialog, Qt::Key_Escape);
         const auto buttons = dialog->findChildren<QAbstractButton *>();
         if (!buttons.isEmpty())
@@ -441,7 +443,8 @@ void tst_PhotoTour::batchExportIsCanceledInTheMiddle()
     answerFolder(out);
     click(find<VantraButton>(QStringLiteral("export")));
     const QStringList written = QDir(out).entryList(QDir::Files);
-    QVERIFY(written.size() >= 3 && written.size() < waiting);
+    QVERIFY(told);
+    QVERIFY(written.size() >= kCopies / 2 && written.size() < waiting);
     for (const QString &name : written)
         QVERIFY2(!QImage(QDir(out).filePath(name)).isNull(), qPrintable(name));
     QCOMPARE(find<VantraButton>(QStringLiteral("export"))->notificationBadgeCount(),
