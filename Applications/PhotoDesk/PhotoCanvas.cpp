@@ -8,7 +8,6 @@
 
 #include <QtConcurrent/QtConcurrentMap>
 #include <QtGui/QPainter>
-#include <QtGui/QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +15,6 @@
 namespace {
 constexpr double kLargestZoom = 16.0;
 constexpr int kFitMargin = 28;       // logical pixels
-constexpr int kDividerReach = 8;     // logical pixels
 constexpr int kBandHeight = 64;      // rows for one thread at a time
 constexpr double kSmoothBelow = 3.0; // from this zoom on, pixels are shown as such
 
@@ -322,48 +320,4 @@ void PhotoCanvas::endCrop(bool inTakeCrop)
     }
     place();
     emit croppingChanged(false);
-}
-
-void PhotoCanvas::wheelEvent(QWheelEvent *inEvent)
-{
-    zoomAround(mZoom * std::pow(kZoomStep, inEvent->angleDelta().y() / 120.0), inEvent->position());
-}
-
-void PhotoCanvas::mousePressEvent(QMouseEvent *inEvent)
-{
-    if (inEvent->button() != Qt::LeftButton || mPhoto == nullptr)
-        return;
-    mDragFrom = inEvent->position();
-    const double divider = (mVisible.left() + mDivider * mVisible.width()) / devicePixelRatioF();
-    mDragsDivider = mBeforeAfter && std::abs(mDragFrom.x() - divider) <= kDividerReach;
-    setCursor(mDragsDivider ? Qt::SplitHCursor : Qt::ClosedHandCursor);
-}
-
-void PhotoCanvas::mouseMoveEvent(QMouseEvent *inEvent)
-{
-    if (!(inEvent->buttons() & Qt::LeftButton) || mPixels == nullptr)
-        return;
-    const QPointF way = (inEvent->position() - mDragFrom) * devicePixelRatioF();
-    mDragFrom = inEvent->position();
-    if (mDragsDivider) {
-        mDivider = std::clamp(mDivider + way.x() / std::max(1, mVisible.width()), 0.0, 1.0);
-        mApplied = QImage();
-        update();
-    } else {
-        mCentre -= way / mZoom;
-        place();
-    }
-}
-
-void PhotoCanvas::mouseReleaseEvent(QMouseEvent *)
-{
-    unsetCursor();
-}
-
-void PhotoCanvas::mouseDoubleClickEvent(QMouseEvent *inEvent)
-{
-    if (mFits)
-        zoomAround(1.0, inEvent->position());
-    else
-        fit();
 }
