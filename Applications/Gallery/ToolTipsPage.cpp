@@ -28,11 +28,11 @@ struct Lesson
 constexpr Lesson kLessons[] = {
     {"Mask brush", "B", &DrawnIcons::brush, ":/Gallery/ToolTips/brush.gif",
      "Paints where an adjustment acts. <b>Shift</b> draws straight lines, <b>Alt</b> takes paint away.",
-     "https://doc.qt.io/qt-6/qpainter.html", 20},
+     "https://example.com/learn/brush", 20},
     {"Crop", "C", &DrawnIcons::crop, ":/Gallery/ToolTips/crop.gif",
      "Cuts the picture to a frame. Drag a corner to size it; what lies outside stays and comes back with "
      "<b>Reset</b>.",
-     "https://doc.qt.io/qt-6/qrect.html", 18},
+     "https://example.com/learn/crop", 18},
 };
 
 Tool *makeTool(const Lesson &inLesson, Tool::ToolTipDirection inDirection)

@@ -194,7 +194,7 @@ VantraToolButton *PhotoWindow::addViewTool(VantraFrame *ioBar, const QString &in
     button->setObjectName(QLatin1String(inTip));
     button->setToolTipImage(QStringLiteral(":/PhotoDesk/ToolTips/%1.gif").arg(QLatin1String(inTip)));
     button->setToolTipDetailed(inText);
-    button->setToolTipUrl(QStringLiteral("https://doc.qt.io/qt-6/qimage.html"));
+    button->setToolTipUrl(QStringLiteral("https://example.com/learn/photodesk"));
     button->setToolTipDirection(VantraToolButton::ToolTipDirectionBelow);
     return button;
 }
