@@ -27,3 +27,26 @@ function(vtwidgets_shared_library target)
     vtwidgets_target_options(${target})
     set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()
+
+# Qt's headers are most of what a source has to read. Read once, they halve the time of a full build. A compiler
+# cache does without: it would have to be told to trust precompiled headers.
+set(precompile OFF)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CXX_COMPILER_LAUNCHER MATCHES "ccache")
+    set(precompile ON)
+endif()
+option(VTWIDGETS_PRECOMPILE_HEADERS "Read Qt's headers once for all sources" ${precompile})
+if(VTWIDGETS_PRECOMPILE_HEADERS)
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled.cpp CONTENT "" @ONLY)
+    add_library(VTWidgetsPrecompiled OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+    vtwidgets_target_options(VTWidgetsPrecompiled)
+    set_target_properties(VTWidgetsPrecompiled PROPERTIES AUTOMOC OFF)
+    target_link_libraries(VTWidgetsPrecompiled PRIVATE Qt6::Widgets)
+    target_precompile_headers(VTWidgetsPrecompiled PRIVATE <QtWidgets/QtWidgets>)
+endif()
+
+# vtwidgets_precompiled(TARGET): for targets of many sources that are built with Qt Widgets.
+function(vtwidgets_precompiled target)
+    if(VTWIDGETS_PRECOMPILE_HEADERS)
+        target_precompile_headers(${target} REUSE_FROM VTWidgetsPrecompiled)
+    endif()
+endfunction()
