@@ -6,11 +6,13 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
+#include <QtCore/QStorageInfo>
 #include <QtGui/QImageReader>
 #include <QtGui/QImageWriter>
 
 namespace {
 constexpr int kJpegQuality = 92;
+constexpr qint64 kFullDisk = 65536; // bytes that are left at most
 constexpr int kLargestImage = 2048; // MB of memory
 
 QString tr(const char *inText)
@@ -29,6 +31,14 @@ QImage read(QImageReader &ioReader, QString &outReason)
     }
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     return image;
+}
+
+// Of a full disk, the writers for pictures say only that they know no reason.
+QString writingTrouble(const QSaveFile &inFile, const QImageWriter &inWriter)
+{
+    if (QStorageInfo(QFileInfo(inFile.fileName()).path()).bytesAvailable() < kFullDisk)
+        return tr("the disk is full");
+    return inFile.error() != QFileDevice::NoError ? inFile.errorString() : inWriter.errorString();
 }
 } // namespace
 
@@ -115,8 +125,7 @@ PhotoFile::ExportResult PhotoFile::exportPhoto(const QString &inSource, const Ph
     if (format == "jpg")
         writer.setQuality(kJpegQuality);
     if (!writer.write(photo))
-        return {Outcome::Failed,
-                file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString()};
+        return {Outcome::Failed, writingTrouble(file, writer)};
     // A last chance to cancel, before the old file is replaced.
     if (inReport && !inReport(photo.height(), photo.height()))
         return {Outcome::Canceled, {}};
