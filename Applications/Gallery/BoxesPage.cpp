@@ -104,6 +104,21 @@ VantraComboBox *makeWithChecks()
     return box;
 }
 
+// A row of boxes that inSetUp makes alike, in all states.
+template <typename Box, typename Option, typename SetUp>
+void addRow(SampleGrid &ioGrid, const QString &inName, SetUp inSetUp)
+{
+    auto *box = new Box;
+    inSetUp(box);
+    ioGrid.add(inName, box);
+    addStateSamples<Box, Option>(ioGrid, inSetUp, inName + QStringLiteral(", "));
+    auto *disabled = new Box;
+    inSetUp(disabled);
+    disabled->setEnabled(false);
+    ioGrid.add(inName + QStringLiteral(", disabled"), disabled);
+    ioGrid.endRow();
+}
+
 void addCheckBoxes(QVBoxLayout *ioLayout)
 {
     SampleGrid grid(ioLayout, 6);
@@ -118,16 +133,7 @@ void addCheckBoxes(QVBoxLayout *ioLayout)
             ioBox->setTristate(state.state == Qt::PartiallyChecked);
             ioBox->setCheckState(state.state);
         };
-        const QString name = QLatin1String(state.caption);
-        auto *box = new VantraCheckBox;
-        setUp(box);
-        grid.add(name, box);
-        addStateSamples<VantraCheckBox, QStyleOptionButton>(grid, setUp, name + QStringLiteral(", "));
-        auto *disabled = new VantraCheckBox;
-        setUp(disabled);
-        disabled->setEnabled(false);
-        grid.add(name + QStringLiteral(", disabled"), disabled);
-        grid.endRow();
+        addRow<VantraCheckBox, QStyleOptionButton>(grid, QLatin1String(state.caption), setUp);
     }
     ioLayout->addSpacing(8);
 
@@ -161,16 +167,7 @@ void addBackgrounds(QVBoxLayout *ioLayout)
             fill(ioBox);
             ioBox->setBackgroundStyle(style.style);
         };
-        const QString name = QLatin1String(style.caption);
-        auto *box = new VantraComboBox;
-        setUp(box);
-        grid.add(name, box);
-        addStateSamples<VantraComboBox, QStyleOptionComboBox>(grid, setUp, name + QStringLiteral(", "));
-        auto *disabled = new VantraComboBox;
-        setUp(disabled);
-        disabled->setEnabled(false);
-        grid.add(name + QStringLiteral(", disabled"), disabled);
-        grid.endRow();
+        addRow<VantraComboBox, QStyleOptionComboBox>(grid, QLatin1String(style.caption), setUp);
     }
 }
 
