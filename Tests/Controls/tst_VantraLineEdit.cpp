@@ -4,17 +4,11 @@
 #include "Support/DataRows.h"
 #include "Support/ThemeFixture.h"
 #include "Theme/VantraFont.h"
-#include "Theme/VantraStyleTheme.h"
 #include "VTQtLocale.h"
 
 #include <QtTest/QtTest>
 
 namespace {
-
-QColor themeColor(VantraPalette::PaletteGroup inGroup, VantraPalette::PaletteRole inRole)
-{
-    return VantraStyleTheme::instance().colorPalette().brush(inGroup, inRole).color();
-}
 
 // A window with the field and, behind it, a button that takes the focus.
 struct Form : QWidget
@@ -144,11 +138,13 @@ void tst_VantraLineEdit::textColorFollowsPointerAndState()
     for (const char *accent : {"blue", "orange"}) {
         QVERIFY(ThemeFixture::load(QLatin1String(accent)));
         edit.setEnabled(true);
-        QCOMPARE(colorAfter(true), themeColor(VantraPalette::Highlighted, VantraPalette::LineEditText));
-        QCOMPARE(colorAfter(false), themeColor(VantraPalette::Normal, VantraPalette::LineEditText));
+        QCOMPARE(colorAfter(true),
+                 ThemeFixture::color(VantraPalette::Highlighted, VantraPalette::LineEditText));
+        QCOMPARE(colorAfter(false), ThemeFixture::color(VantraPalette::Normal, VantraPalette::LineEditText));
         edit.setEnabled(false);
-        QCOMPARE(colorAfter(true), themeColor(VantraPalette::Disabled, VantraPalette::LineEditText));
-        QCOMPARE(colorAfter(false), themeColor(VantraPalette::Disabled, VantraPalette::LineEditText));
+        QCOMPARE(colorAfter(true), ThemeFixture::color(VantraPalette::Disabled, VantraPalette::LineEditText));
+        QCOMPARE(colorAfter(false),
+                 ThemeFixture::color(VantraPalette::Disabled, VantraPalette::LineEditText));
     }
 }
 
@@ -182,7 +178,7 @@ void tst_VantraLineEdit::panelLiesBeneathTheText()
     const QImage bare = ThemeFixture::paint(edit.size(), [&edit](QPainter &ioPainter) {
         edit.render(&ioPainter, QPoint(), QRegion(), QWidget::RenderFlags());
     });
-    const QColor ground = themeColor(VantraPalette::Normal, row.role);
+    const QColor ground = ThemeFixture::color(VantraPalette::Normal, row.role);
     QCOMPARE(bare.pixelColor(100, 12).alpha(), ground.alpha());
     if (ground.alpha() > 0) {
         QCOMPARE(bare.pixelColor(100, 12), ground);

@@ -3,16 +3,10 @@
 #include "Style/VantraStyle.h"
 #include "Support/DataRows.h"
 #include "Support/ThemeFixture.h"
-#include "Theme/VantraStyleTheme.h"
 
 #include <QtTest/QtTest>
 
 namespace {
-
-QColor themeColor(VantraPalette::PaletteGroup inGroup, VantraPalette::PaletteRole inRole)
-{
-    return VantraStyleTheme::instance().colorPalette().brush(inGroup, inRole).color();
-}
 
 // A window with the box and a button, which counts the Return and Enter keys that reach it.
 struct Form : QWidget
@@ -150,17 +144,17 @@ void tst_VantraTextEdit::lookFollowsPointerAndStyle()
     VantraTextEdit edit;
     edit.resize(120, 60);
     edit.setBorderStyle(VantraTextEdit::BorderHighlight);
-    const QColor ground = themeColor(VantraPalette::Normal, VantraPalette::LineEditBackground);
+    const QColor ground = ThemeFixture::color(VantraPalette::Normal, VantraPalette::LineEditBackground);
     QCOMPARE(edit.grab().toImage().pixelColor(60, 50), ground);
     QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
     QCoreApplication::sendEvent(&edit, &enter);
     QCOMPARE(edit.palette().color(QPalette::Text),
-             themeColor(VantraPalette::Highlighted, VantraPalette::LineEditText));
+             ThemeFixture::color(VantraPalette::Highlighted, VantraPalette::LineEditText));
     edit.setEnabled(false);
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&edit, &leave);
     QCOMPARE(edit.palette().color(QPalette::Text),
-             themeColor(VantraPalette::Disabled, VantraPalette::LineEditText));
+             ThemeFixture::color(VantraPalette::Disabled, VantraPalette::LineEditText));
 }
 
 void tst_VantraTextEdit::assistantsSeeATextField()

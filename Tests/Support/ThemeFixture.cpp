@@ -24,6 +24,11 @@ bool ThemeFixture::load(const QString &inAccent)
            VantraStyleTheme::loadGlobalConfig(QStringLiteral("base"), inAccent);
 }
 
+QColor ThemeFixture::color(VantraPalette::PaletteGroup inGroup, VantraPalette::PaletteRole inRole)
+{
+    return VantraStyleTheme::instance().colorPalette().brush(inGroup, inRole).color();
+}
+
 QJsonObject ThemeFixture::json(QByteArray inText)
 {
     inText.replace('\'', '"');

@@ -3,6 +3,8 @@
 // What several tests of the look share: fonts and stock theme, theme files of a test's own, and painting into
 // pictures.
 
+#include "Theme/VantraPalette.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
@@ -22,6 +24,9 @@ namespace ThemeFixture {
 
 // Loads the fonts, the first time, and the stock theme with an accent. False when either fails.
 bool load(const QString &inAccent = QStringLiteral("blue"));
+
+// What the loaded theme has for a group and role.
+QColor color(VantraPalette::PaletteGroup inGroup, VantraPalette::PaletteRole inRole);
 
 // A JSON object from a text in which single quotes stand for double ones. Stops the process when it isn't
 // one.
