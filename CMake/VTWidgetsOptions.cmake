@@ -29,7 +29,8 @@ function(vtwidgets_shared_library target)
 endfunction()
 
 # Qt's headers are most of what a source has to read. Read once, they halve the time of a full build. A compiler
-# cache does without: it would have to be told to trust precompiled headers.
+# cache does without: it would have to be told to trust precompiled headers. A precompiled header only serves sources
+# that are compiled with the same kind of position-independent code, so programs take the libraries'.
 set(precompile OFF)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CXX_COMPILER_LAUNCHER MATCHES "ccache")
     set(precompile ON)
@@ -42,11 +43,13 @@ if(VTWIDGETS_PRECOMPILE_HEADERS)
     set_target_properties(VTWidgetsPrecompiled PROPERTIES AUTOMOC OFF)
     target_link_libraries(VTWidgetsPrecompiled PRIVATE Qt6::Widgets)
     target_precompile_headers(VTWidgetsPrecompiled PRIVATE <QtWidgets/QtWidgets>)
+    target_compile_options(VTWidgetsPrecompiled PRIVATE -fPIC)
 endif()
 
 # vtwidgets_precompiled(TARGET): for targets of many sources that are built with Qt Widgets.
 function(vtwidgets_precompiled target)
     if(VTWIDGETS_PRECOMPILE_HEADERS)
         target_precompile_headers(${target} REUSE_FROM VTWidgetsPrecompiled)
+        target_compile_options(${target} PRIVATE -fPIC)
     endif()
 endfunction()

@@ -21,6 +21,8 @@ const QString kLongText = QStringLiteral("A text that is a good deal longer than
 // and painted by its own code.
 class PopupPicture : public QWidget
 {
+    Q_OBJECT
+
 public:
     // Takes the combo box as its child.
     PopupPicture(VantraComboBox *inBox, int inHovered) : mBox(inBox)
@@ -240,3 +242,5 @@ GalleryPage *makeBoxesPage(QWidget *inParent)
 {
     return new BoxesPage(inParent);
 }
+
+#include "BoxesPage.moc"

@@ -36,6 +36,8 @@ protected:
 // painted by its own code.
 class MenuPicture : public QWidget
 {
+    Q_OBJECT
+
 public:
     enum Backdrop { Page, Photograph };
 
@@ -266,3 +268,5 @@ GalleryPage *makeMenusPage(QWidget *inParent)
 {
     return new MenusPage(inParent);
 }
+
+#include "MenusPage.moc"
