@@ -134,6 +134,7 @@ private slots:
     void editableHasTheFont();
     void accessible();
     void mayBeDeletedWithItsPopup();
+    void reopenedListShowsTheCurrentItem();
     void viewMayBeReplaced();
 
 private:
@@ -446,6 +447,26 @@ void tst_VantraComboBox::mayBeDeletedWithItsPopup()
     QTest::keyClick(window.box->view(), Qt::Key_Down);
     delete window.box;
     QVERIFY(QApplication::activePopupWidget() == nullptr);
+}
+
+void tst_VantraComboBox::reopenedListShowsTheCurrentItem()
+{
+    Window window;
+    QVERIFY(window.showFocused());
+    window.box->setCurrentIndex(0);
+    window.box->showPopup();
+    QTest::keyClick(window.box->view(), Qt::Key_Down);
+    QTest::keyClick(window.box->view(), Qt::Key_Escape);
+    QTRY_VERIFY(!window.popupShows());
+    QCOMPARE(window.box->currentIndex(), 0);
+
+    // A preview that follows the highlight must not run while the list is closed.
+    QSignalSpy spy(window.box, &QComboBox::highlighted);
+    window.box->setCurrentIndex(2);
+    QCOMPARE(spy.count(), 0);
+    window.box->showPopup();
+    QCOMPARE(indexes(spy), QList<int>{2});
+    QCOMPARE(window.box->view()->currentIndex().row(), 2);
 }
 
 void tst_VantraComboBox::viewMayBeReplaced()

@@ -6,6 +6,7 @@
 #include "VTDpiUtils.h"
 #include "VTQtSignalBlocker.h"
 
+#include <QtCore/QItemSelectionModel>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QStandardItemModel>
@@ -34,6 +35,7 @@ VantraComboBoxBase::VantraComboBoxBase(QWidget *inParent) : QComboBox(inParent)
     view()->setAlternatingRowColors(false);
     view()->setFrameShadow(QFrame::Plain);
     view()->setFrameShape(QFrame::NoFrame);
+    freezeHighlight();
 }
 
 VantraComboBoxBase::~VantraComboBoxBase()
@@ -110,8 +112,34 @@ void VantraComboBoxBase::showPopup()
     }
     emit aboutToShowPopup();
     adjustMinimumViewWidth(this);
+    highlightCurrentItem();
     QComboBox::showPopup();
+    if (!view()->isVisible()) {
+        freezeHighlight(); // an empty list does not open
+    }
     emit showingPopup();
+}
+
+// Up to 6.4 Qt moves the list's highlight to the current item when the popup opens, and emits highlighted()
+// for it. Newer Qt does so at every change of the current index, when nobody sees the list, and leaves a row
+// that was abandoned by Escape highlighted. While the popup is closed the list therefore doesn't follow.
+void VantraComboBoxBase::freezeHighlight()
+{
+    mClosedHighlight = view()->currentIndex();
+    view()->selectionModel()->blockSignals(true);
+}
+
+void VantraComboBoxBase::highlightCurrentItem()
+{
+    QItemSelectionModel *selection = view()->selectionModel();
+    // A view or model that the application has set since is not frozen.
+    if (selection->signalsBlocked()) {
+        selection->setCurrentIndex(mClosedHighlight, QItemSelectionModel::NoUpdate);
+        selection->blockSignals(false);
+    }
+    QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::ClearAndSelect;
+    flags.setFlag(QItemSelectionModel::Rows, view()->selectionBehavior() == QAbstractItemView::SelectRows);
+    selection->setCurrentIndex(model()->index(currentIndex(), modelColumn(), rootModelIndex()), flags);
 }
 
 void VantraComboBoxBase::hidePopup()
@@ -157,6 +185,8 @@ bool VantraComboBoxBase::eventFilter(QObject *watched, QEvent *event)
         } else if (event->type() == QEvent::Leave) {
             // A press followed by leaving the list is no choice.
             mPressedIndex = -1;
+        } else if (event->type() == QEvent::Hide) {
+            freezeHighlight();
         }
     }
     return QObject::eventFilter(watched, event);

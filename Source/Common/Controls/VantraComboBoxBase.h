@@ -13,6 +13,7 @@
 
 #include "VTWidgetsLiteExport.h"
 
+#include <QtCore/QPersistentModelIndex>
 #include <QtGui/QIcon>
 #include <QtWidgets/QComboBox>
 
@@ -111,10 +112,13 @@ private slots:
 
 private:
     void resetIndexes();
+    void freezeHighlight();
+    void highlightCurrentItem();
 
     int mHighlightedIndex = -1;
     int mPressedIndex = -1;
-    int mPopupStartIndex = -1; // until it has been restored, or a press makes it moot
+    int mPopupStartIndex = -1;              // until it has been restored, or a press makes it moot
+    QPersistentModelIndex mClosedHighlight; // what the list showed when it was last closed
     QString mPlaceholderText;
     QIcon mPlaceholderIcon;
     std::function<void(VantraComboBoxBase *)> mAboutToShowPopupFunc;
