@@ -9,6 +9,22 @@
 #include <QtGui/QMovie>
 #include <QtWidgets/QVBoxLayout>
 
+namespace {
+
+// Newer Qt takes the line break after the inner element for a line of its own, which would end the tip with
+// an empty line. Inside the element it gives the same lines as before.
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
+const QString kTemplate =
+    QStringLiteral("<div>\n\t<div>\n\t%1\n\t</div>\n\n\t<div align=\"right\">\n\t\t"
+                   "<a style=\"color: %2\" href=\"%3\" align=right>%4</a>\n\t</div>\n\t<br>\n</div>");
+#else
+const QString kTemplate =
+    QStringLiteral("<div>\n\t<div>\n\t%1\n\t</div>\n\n\t<div align=\"right\">\n\t\t"
+                   "<a style=\"color: %2\" href=\"%3\" align=right>%4</a>\n\t<br>\n\t</div>\n</div>");
+#endif
+
+} // namespace
+
 struct VantraToolTipContent::Ui
 {
     QVBoxLayout *verticalLayout = nullptr;
@@ -65,10 +81,7 @@ void VantraToolTipContent::setToolTip(const QString &inImage, const QString &inT
     const QColor linkColor =
         VantraStyleTheme::instance().colorPalette().color(VantraPalette::Normal, VantraPalette::WindowText);
     // In one call, so that a percent sign in a text is no place to fill.
-    const QString html =
-        QStringLiteral("<div>\n\t<div>\n\t%1\n\t</div>\n\n\t<div align=\"right\">\n\t\t"
-                       "<a style=\"color: %2\" href=\"%3\" align=right>%4</a>\n\t</div>\n\t<br>\n</div>")
-            .arg(inDetailed, linkColor.name(), inUrl, tr("Learn how"));
+    const QString html = kTemplate.arg(inDetailed, linkColor.name(), inUrl, tr("Learn how"));
     mUi->mTitleLabel->setText(inTitle);
     mUi->mContentLabel->setText(html);
     setToolTipImage(inImage);
