@@ -41,7 +41,11 @@ QImage Icons::turnLeft()
 
 QImage Icons::turnRight()
 {
-    return turnLeft().mirrored(true, false);
+    return drawn([](QPainter &ioPainter) {
+        ioPainter.translate(kGrid, 0.0);
+        ioPainter.scale(-1.0, 1.0);
+        drawTurn(ioPainter);
+    });
 }
 
 QImage Icons::crop()

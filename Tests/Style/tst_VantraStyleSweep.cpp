@@ -1,4 +1,5 @@
 #include "Style/VantraStyle.h"
+#include "Style/VantraStyleHelperItemView.h"
 #include "Support/DataRows.h"
 #include "Support/FatalTest.h"
 #include "Support/StyleSamples.h"
@@ -115,7 +116,7 @@ const QStyle::State kStates[] = {
     QStyle::State_None,
     QStyle::State_Enabled | QStyle::State_MouseOver | QStyle::State_On | QStyle::State_Horizontal,
     QStyle::State_Enabled | QStyle::State_Selected | QStyle::State_NoChange | QStyle::State_Children,
-    QStyle::State_Enabled | QStyle::State_Sunken | QStyle::State_HasFocus | QStyle::State_Editing,
+    QStyle::State_Enabled | QStyle::State_Sunken | QStyle::State_HasFocus | kStateEditing,
 };
 
 template <typename Enum, typename Call>

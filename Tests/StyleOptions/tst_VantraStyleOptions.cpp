@@ -29,8 +29,9 @@ void upgrades()
     QVERIFY(!Cast(nullptr));
     plain.version = 0;
     QVERIFY(!Cast(&plain));
-    const QStyleOption other(3, plain.type + 1);
-    QVERIFY(!Cast(&other));
+    plain.version = 3;
+    ++plain.type;
+    QVERIFY(!Cast(&plain));
 }
 
 } // namespace

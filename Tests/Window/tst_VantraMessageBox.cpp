@@ -315,7 +315,7 @@ void tst_VantraMessageBox::foreignCheckBoxMayGo()
 {
     VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), false);
     auto *checkBox = new QCheckBox(text("Apply to all"));
-    QSignalSpy spy(checkBox, &QCheckBox::stateChanged);
+    QSignalSpy spy(checkBox, SIGNAL(stateChanged(int)));
     box.insertCheckboxBelowText(checkBox);
     checkBox->click();
     QCOMPARE(spy.count(), 0); // earlier connections are cut

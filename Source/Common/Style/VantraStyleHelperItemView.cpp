@@ -111,7 +111,7 @@ void VantraStyleHelperItemView::drawText(const VantraStyleOptionViewItem &option
     const QPalette::ColorRole role =
         strong && (state & QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
     painter->setPen(option.palette.color(group, role));
-    if (state & QStyle::State_Editing) {
+    if (state & kStateEditing) {
         painter->setPen(option.palette.color(group, QPalette::Text));
         painter->drawRect(rect.adjusted(0, 0, -1, -1));
     }

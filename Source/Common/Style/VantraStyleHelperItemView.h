@@ -8,6 +8,10 @@
 class QStyleOption;
 class VantraStyleOptionViewItem;
 
+// QStyle::State_Editing. Newer Qt deprecates the name, since its own views don't set the state; other callers
+// may.
+constexpr QStyle::StateFlag kStateEditing = static_cast<QStyle::StateFlag>(0x00400000);
+
 class VantraStyleHelperItemView : public VantraStyleHelper
 {
 public:
