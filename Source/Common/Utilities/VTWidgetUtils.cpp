@@ -1,5 +1,6 @@
 #include "Utilities/VTWidgetUtils.h"
 
+#include "Theme/VantraStyleTheme.h"
 #include "Utilities/VTWidgetUtilsNative_p.h"
 #include "Utilities/VantraSortFilterProxyModel.h"
 #include "VTDpiUtils.h"
@@ -59,6 +60,35 @@ private:
     }
 };
 
+class ThemeFrameEventFilter : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *inObject, QEvent *inEvent) override
+    {
+        switch (inEvent->type()) {
+        case QEvent::WinIdChange:
+        case QEvent::Show:
+        case QEvent::PaletteChange:
+        case QEvent::StyleChange:
+        case QEvent::ThemeChange: // Qt then sets all frames by the desktop's setting
+            matchFrameOf(qobject_cast<QWidget *>(inObject));
+            break;
+        default: break;
+        }
+        return false;
+    }
+
+    static void matchFrameOf(const QWidget *inWidget)
+    {
+        // Asking a widget for its native window would create one.
+        if (inWidget != nullptr && inWidget->isWindow() && inWidget->internalWinId() != 0) {
+            VTWidgetUtilsNative::setFrameDark(inWidget->internalWinId(), VTWidgetsIsThemeDark());
+        }
+    }
+};
+
 } // namespace
 
 QImage VTWidgetsGetAppIconAsImage(int inSize, int inRatio)
@@ -99,6 +129,21 @@ void VTWidgetsActivateWindow(QWidget *inActivateWindow)
     QT_WARNING_DISABLE_DEPRECATED
     QApplication::setActiveWindow(inActivateWindow);
     QT_WARNING_POP
+}
+
+bool VTWidgetsIsThemeDark()
+{
+    constexpr int kMiddleGray = 128;
+    const QBrush &background = VantraStyleTheme::instance().colorPalette().brush(
+        VantraPalette::Normal, VantraPalette::WindowBackground);
+    return qGray(background.color().rgb()) < kMiddleGray;
+}
+
+void VTWidgetsMatchFrameToTheme(QWidget *inWindow)
+{
+    Q_ASSERT(inWindow != nullptr);
+    inWindow->installEventFilter(new ThemeFrameEventFilter(inWindow));
+    ThemeFrameEventFilter::matchFrameOf(inWindow);
 }
 
 void VTWidgetsSetHasBorderInFullScreen(QWidget *inWidget, bool inEnable)

@@ -41,6 +41,14 @@ VTWIDGETSLITE_EXPORT void VTWidgetsActivateWindow(QWidget *inActivateWindow);
 // nothing.
 VTWIDGETSLITE_EXPORT void VTWidgetsSetHasBorderInFullScreen(QWidget *inWidget, bool inEnable);
 
+// Whether the current theme is dark, judged by its WindowBackground: for what has a dark and a light form.
+VTWIDGETSLITE_EXPORT bool VTWidgetsIsThemeDark();
+
+// Keeps the title bar of a window dark or light like the current theme, for the window's whole life. On
+// Windows and macOS; other systems have settings of their own for it, and older versions of Windows have no
+// dark title bar. Main windows, message boxes and progress dialogs do this themselves.
+VTWIDGETSLITE_EXPORT void VTWidgetsMatchFrameToTheme(QWidget *inWindow);
+
 // Name, size in logical pixels and ratio of a screen, as in "DP-1-2560x1440@1x"; "Undefined" for none. The
 // first form describes the widget's screen, the primary one while the widget has no window.
 VTWIDGETSLITE_EXPORT QString VTWidgetsScreenInfo(QWidget *inWidget);

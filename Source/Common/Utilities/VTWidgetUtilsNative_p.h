@@ -13,4 +13,7 @@ QImage appIcon(int inPixels);
 // Adds a border to the native window where full screen needs one.
 void addBorder(WId inWindow);
 
+// Makes the frame and title bar of the native window dark or light, where the system lets a window choose.
+void setFrameDark(WId inWindow, bool inDark);
+
 } // namespace VTWidgetUtilsNative

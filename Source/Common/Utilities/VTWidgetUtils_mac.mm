@@ -2,6 +2,7 @@
 #include "Utilities/VTWidgetUtilsNative_p.h"
 
 #include <QtGui/QColor>
+#include <QtGui/QGuiApplication>
 
 #import <AppKit/AppKit.h>
 
@@ -38,6 +39,15 @@ QImage VTWidgetUtilsNative::appIcon(int inPixels)
 
 void VTWidgetUtilsNative::addBorder(WId)
 {
+}
+
+void VTWidgetUtilsNative::setFrameDark(WId inWindow, bool inDark)
+{
+    // Other platform plugins, such as "offscreen", have handles that are not views.
+    if (QGuiApplication::platformName() == "cocoa") {
+        nativeWindow(inWindow).appearance =
+            [NSAppearance appearanceNamed:inDark ? NSAppearanceNameDarkAqua : NSAppearanceNameAqua];
+    }
 }
 
 void VTWidgetUtils::objcAddChildWindowToWindow(WId inChild, WId inParent)

@@ -12,3 +12,7 @@ QImage VTWidgetUtilsNative::appIcon(int inPixels)
 void VTWidgetUtilsNative::addBorder(WId)
 {
 }
+
+void VTWidgetUtilsNative::setFrameDark(WId, bool)
+{
+}

@@ -58,6 +58,20 @@ QImage drawnIcon(HDC inDeviceContext, HICON inIcon, int inWidth, int inHeight)
     return image;
 }
 
+using SetWindowAttribute = HRESULT(WINAPI *)(HWND, DWORD, LPCVOID, DWORD);
+
+// Null where the system has no desktop composition.
+SetWindowAttribute setWindowAttribute()
+{
+    static const auto sFunction = [] {
+        const HMODULE library = LoadLibraryExW(L"dwmapi.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+        return library != nullptr ? reinterpret_cast<SetWindowAttribute>(reinterpret_cast<void *>(
+                                        GetProcAddress(library, "DwmSetWindowAttribute")))
+                                  : nullptr;
+    }();
+    return sFunction;
+}
+
 } // namespace
 
 QImage VTWidgetUtilsNative::appIcon(int inPixels)
@@ -89,4 +103,21 @@ void VTWidgetUtilsNative::addBorder(WId inWindow)
 {
     const auto handle = reinterpret_cast<HWND>(inWindow);
     SetWindowLongW(handle, GWL_STYLE, GetWindowLongW(handle, GWL_STYLE) | WS_BORDER);
+}
+
+void VTWidgetUtilsNative::setFrameDark(WId inWindow, bool inDark)
+{
+    // DWMWA_USE_IMMERSIVE_DARK_MODE, which headers of older systems lack, and its number before Windows 10
+    // 2004.
+    constexpr DWORD kDarkMode = 20;
+    constexpr DWORD kEarlierDarkMode = 19;
+    const SetWindowAttribute set = setWindowAttribute();
+    if (set == nullptr) {
+        return;
+    }
+    const auto handle = reinterpret_cast<HWND>(inWindow);
+    const BOOL dark = inDark ? TRUE : FALSE;
+    if (FAILED(set(handle, kDarkMode, &dark, sizeof dark))) {
+        set(handle, kEarlierDarkMode, &dark, sizeof dark);
+    }
 }

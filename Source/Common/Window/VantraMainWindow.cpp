@@ -111,6 +111,7 @@ VantraMainWindow::VantraMainWindow(QWidget *inParent)
     : QMainWindow(inParent), mUi(std::make_unique<Ui::VantraMainWindow>())
 {
     VTWidgetsSetHasBorderInFullScreen(this, true);
+    VTWidgetsMatchFrameToTheme(this);
     mUi->setupUi(this);
     if (VTQtSysInfo::isMacPlatform()) {
         VTWidgetUtils::objcSetCollectionBehaviorFullScreenPrimary(winId());
