@@ -8,6 +8,11 @@ set(VTWIDGETS_TRANSLATIONS
     Applications/Gallery=Applications/Gallery/Translations/vtwidgets-gallery)
 
 find_package(Qt6 6.4 QUIET COMPONENTS LinguistTools)
+if(NOT Qt6LinguistTools_FOUND AND CMAKE_CROSSCOMPILING AND QT_HOST_PATH_CMAKE_DIR)
+    # The tools run on this machine.
+    find_package(Qt6LinguistTools QUIET PATHS ${QT_HOST_PATH_CMAKE_DIR}/Qt6LinguistTools NO_DEFAULT_PATH
+        NO_CMAKE_FIND_ROOT_PATH)
+endif()
 if(NOT Qt6LinguistTools_FOUND)
     message(STATUS "Without translations, as Qt's lrelease was not found (on Debian: apt-get install qt6-l10n-tools)")
 endif()

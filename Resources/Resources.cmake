@@ -5,7 +5,8 @@ set(VTWIDGETS_ICON_FONT "" CACHE FILEPATH
     "TTF file of the icon font; empty takes the one of Debian's fonts-font-awesome")
 
 function(vtwidgets_find_font out file package variable)
-    find_file(path NAMES ${file} NO_CACHE
+    # Fonts are the same for every system, so a cross-compiler's folders don't count.
+    find_file(path NAMES ${file} NO_CACHE NO_CMAKE_FIND_ROOT_PATH
         HINTS ${VTWIDGETS_FONT_DIR}
         PATHS
             /usr/share/fonts/truetype/roboto/unhinted/RobotoTTF

@@ -4,7 +4,7 @@
 # Qt's headers are those of the system this runs on. They choose Q_OS_WIN by the compiler, so every Windows
 # branch of ours and of theirs is seen; only features that Qt has on other systems alone are turned off below.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 compiler=x86_64-w64-mingw32-g++-posix
 qmake=$(command -v qmake6 || command -v qmake)
