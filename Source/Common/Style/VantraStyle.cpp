@@ -85,7 +85,7 @@ VantraStyle::VantraStyle()
 
     connect(&mAnimationTimer, &QTimer::timeout, this, &VantraStyle::onAnimationUpdate);
     mAnimationTimer.setInterval(kAnimationInterval);
-    mAnimationTimer.start();
+    ensureAnimationTimer();
 }
 
 VantraStyle::~VantraStyle() = default;
@@ -117,11 +117,13 @@ void VantraStyle::polish(QApplication *application)
     QApplication::setStartDragTime(kStartDragTime);
     QApplication::setStartDragDistance(kStartDragDistance);
     QProxyStyle::polish(application);
+    ensureAnimationTimer();
 }
 
 void VantraStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
+    ensureAnimationTimer();
     if (auto *menu = qobject_cast<QMenu *>(widget)) {
         menu->setWindowFlags(menu->windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
         menu->setAttribute(Qt::WA_TranslucentBackground);
@@ -188,6 +190,13 @@ milliseconds VantraStyle::animationTime(const QWidget *widget) const
     }
     entry.lastQueryTime = now;
     return duration_cast<milliseconds>(now - entry.startTime);
+}
+
+void VantraStyle::ensureAnimationTimer()
+{
+    if (!mAnimationTimer.isActive() && QCoreApplication::instance() != nullptr) {
+        mAnimationTimer.start();
+    }
 }
 
 void VantraStyle::onAnimationUpdate()
