@@ -21,6 +21,7 @@
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QAbstractScrollArea>
@@ -58,6 +59,18 @@ bool isHoverable(const QWidget *inWidget)
            qobject_cast<const QAbstractSpinBox *>(inWidget) || qobject_cast<const QLineEdit *>(inWidget) ||
            qobject_cast<const QComboBox *>(inWidget) || inWidget->inherits("QDockSeparator") ||
            inWidget->inherits("QDockWidgetSeparator");
+}
+
+// QMenu::show() creates the window before it polishes the menu, and QMenu::popup() sets the layout direction
+// before. QWidget::setWindowFlags() would detach the menu from that window and reset that direction.
+void addMenuFlags(QMenu *ioMenu)
+{
+    const Qt::WindowFlags flags =
+        ioMenu->windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
+    ioMenu->overrideWindowFlags(flags);
+    if (QWindow *window = ioMenu->windowHandle()) {
+        window->setFlags(flags);
+    }
 }
 
 } // namespace
@@ -125,7 +138,7 @@ void VantraStyle::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     ensureAnimationTimer();
     if (auto *menu = qobject_cast<QMenu *>(widget)) {
-        menu->setWindowFlags(menu->windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+        addMenuFlags(menu);
         menu->setAttribute(Qt::WA_TranslucentBackground);
     } else if (isHoverable(widget)) {
         widget->setAttribute(Qt::WA_Hover);
