@@ -93,6 +93,50 @@ private slots:
         QVERIFY(!slider.testAttribute(Qt::WA_Hover));
     }
 
+    void menuOpenedByShowCloses_data()
+    {
+        QTest::addColumn<bool>("hasParent");
+        QTest::newRow("with a parent") << true;
+        QTest::newRow("without a parent") << false;
+    }
+
+    // Unlike popup(), show() creates the window before the menu is polished.
+    void menuOpenedByShowCloses()
+    {
+        QFETCH(const bool, hasParent);
+        QWidget window;
+        window.resize(300, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QMenu menu(hasParent ? &window : nullptr);
+        menu.setStyle(&mStyle);
+        menu.addAction("Item");
+        menu.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        QVERIFY(menu.windowHandle()->flags().testFlag(Qt::FramelessWindowHint));
+        QVERIFY(menu.windowHandle()->flags().testFlag(Qt::NoDropShadowWindowHint));
+        QTest::keyClick(&menu, Qt::Key_Escape);
+        QVERIFY(!menu.isVisible());
+        menu.show();
+        QVERIFY(menu.close());
+        QVERIFY(!menu.isVisible());
+        menu.show();
+        menu.move(window.geometry().bottomRight() + QPoint(50, 50));
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+        QVERIFY(!menu.isVisible());
+    }
+
+    void menuKeepsTheDirectionOfItsParent()
+    {
+        QWidget window;
+        window.setLayoutDirection(Qt::RightToLeft);
+        QMenu menu(&window);
+        menu.setStyle(&mStyle);
+        menu.addAction("Item");
+        menu.popup(QPoint(20, 20));
+        QCOMPARE(menu.layoutDirection(), Qt::RightToLeft);
+    }
+
     void scrollAreasShowTheirParents()
     {
         QScrollArea area;

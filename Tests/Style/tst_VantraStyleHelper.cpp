@@ -8,6 +8,8 @@
 #include "../../Source/Common/Style/VantraStyleHelper.cpp"
 #include "../../Source/Common/Style/VantraTextMeasure.cpp"
 
+#include <QtCore/QFile>
+#include <QtGui/QFontDatabase>
 #include <QtWidgets/QApplication>
 
 using namespace StyleSamples;
@@ -52,6 +54,16 @@ QRect inked(const QImage &inImage)
     return result;
 }
 
+// A font of the resources under a family name that no system has. The name is in the file as UTF-16.
+QByteArray renamedFont()
+{
+    QFile file(":/VTWidgets/Fonts/Roboto-Black.ttf");
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QByteArray();
+    }
+    return file.readAll().replace(QByteArray("R\0o\0b\0o\0t\0o", 11), QByteArray("C\0o\0t\0o\0b\0o", 11));
+}
+
 } // namespace
 
 FATAL_CASE(diagonalCorners)
@@ -90,6 +102,26 @@ private slots:
         const bool isSquare =
             std::all_of(std::begin(row.radii), std::end(row.radii), [](int r) { return r == 0; });
         QCOMPARE(image.pixelColor(row.grown.topLeft()) == kPane, isSquare);
+    }
+
+    void measuresFollowTheFontDatabase()
+    {
+        const QFontMetrics metrics(QFont("Cotobo", 20));
+        const QString text("Measured in one font and then in another");
+        const auto areRight = [&] {
+            return VantraTextMeasure::size(text, metrics) == metrics.size(0, text) &&
+                   VantraTextMeasure::rowSize(text, metrics, 0) == metrics.size(0, text) &&
+                   VantraTextMeasure::rowBoundingWidth(text, metrics) == metrics.boundingRect(text).width() &&
+                   VantraTextMeasure::elided(text, metrics, Qt::ElideRight, 200, 0) ==
+                       metrics.elidedText(text, Qt::ElideRight, 200);
+        };
+        const int before = metrics.horizontalAdvance(text);
+        QVERIFY(areRight());
+        const int font = QFontDatabase::addApplicationFontFromData(renamedFont());
+        QVERIFY2(metrics.horizontalAdvance(text) != before, "the test needs a font that changes the widths");
+        QVERIFY(areRight());
+        QVERIFY(QFontDatabase::removeApplicationFont(font));
+        QVERIFY(areRight());
     }
 
     void otherCornersStopTheProcess()

@@ -218,7 +218,9 @@ private slots:
 
     void processEndsWhileAnimated()
     {
-        for (const char *styleOwner : {"application", "outside", "proxy"}) {
+        // The early ones are made before the application object, or even set before it.
+        for (const char *styleOwner :
+             {"application", "outside", "proxy", "early application", "early outside", "set early"}) {
             QProcess child;
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
             environment.insert(kExitVariable, styleOwner);
@@ -228,37 +230,63 @@ private slots:
             QVERIFY(child.waitForFinished(60000));
             const QByteArray output = child.readAll();
             QVERIFY2(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0, output.constData());
-            QVERIFY2(output.contains("ended in motion"), output.constData());
+            QVERIFY2(output.contains("in motion"), output.constData());
         }
     }
 };
 
 namespace {
 
+// Quits the application at the repaint of a widget that only an animation can cause.
+class QuitWhenMoving : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *inEvent) override
+    {
+        constexpr int kRepaints = 5; // showing a window takes one or two
+        if (inEvent->type() == QEvent::Paint && ++mPaints == kRepaints) {
+            fputs("in motion\n", stderr);
+            QCoreApplication::quit();
+        }
+        return false;
+    }
+
+private:
+    int mPaints = 0;
+};
+
 // A program whose busy bar is still moving when it ends.
 int runAnimated(int inCount, char **inArguments)
 {
     const QByteArray owner = qgetenv(kExitVariable);
     std::unique_ptr<VantraStyle> outside;
+    if (owner.startsWith("early")) {
+        outside = std::make_unique<VantraStyle>();
+    } else if (owner == "set early") {
+        QApplication::setStyle(new VantraStyle);
+    }
     int result = 1;
     {
         QApplication application(inCount, inArguments);
         if (!ThemeFixture::load()) {
             return 2;
         }
-        if (owner == "outside") {
+        if (owner == "early application") {
+            QApplication::setStyle(outside.release());
+        } else if (owner == "outside") {
             outside = std::make_unique<VantraStyle>();
         } else if (owner == "proxy") {
             QApplication::setStyle(new QProxyStyle(new VantraStyle));
-        } else {
+        } else if (owner == "application") {
             QApplication::setStyle(new VantraStyle);
         }
         FullWindow window;
         const auto busy = bar(outside.get(), 0);
+        QuitWhenMoving filter;
+        busy->installEventFilter(&filter);
         window.openMenu();
-        QTimer::singleShot(120, &application, &QApplication::quit);
+        QTimer::singleShot(10000, &application, &QApplication::quit);
         result = QApplication::exec();
-        fputs("ended in motion\n", stderr);
     }
     return result;
 }

@@ -155,53 +155,66 @@ private slots:
     void fieldsAreTheirOutlinedPath()
     {
         for (const auto style : {VantraLineEditBase::BorderHighlight, VantraLineEditBase::BorderStandard}) {
-            for (const int height : {24, 25}) {
-                auto option = of<VantraStyleOptionLineEdit>({120, height});
-                option.borderStyle = style;
-                const QImage ours = painted(option.rect, [&](QPainter &painter) {
-                    mStyle.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter);
-                });
-                const QImage expected = painted(option.rect, [&](QPainter &painter) {
-                    paintField(painter, option.rect, theme().lineEditLeftRadius(&option),
-                               theme().lineEditBackgroundBrush(&option));
-                });
-                QVERIFY(sameButForSeams(ours, expected));
+            for (const QSize &size : {QSize(120, 24), QSize(120, 25), QSize(4, 24)}) {
+                for (const double opacity : {1.0, 0.5}) {
+                    auto option = of<VantraStyleOptionLineEdit>(size);
+                    option.borderStyle = style;
+                    const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                        painter.setOpacity(opacity);
+                        mStyle.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter);
+                    });
+                    const QImage expected = painted(option.rect, [&](QPainter &painter) {
+                        painter.setOpacity(opacity);
+                        paintField(painter, option.rect, theme().lineEditLeftRadius(&option),
+                                   theme().lineEditBackgroundBrush(&option));
+                    });
+                    QVERIFY(sameButForSeams(ours, expected));
+                }
             }
         }
     }
 
     void menusAreTheirOutlinedPanel()
     {
-        const auto option = of<QStyleOptionMenuItem>({120, 80});
-        const QImage ours = painted(option.rect, [&](QPainter &painter) {
-            mStyle.drawPrimitive(QStyle::PE_PanelMenu, &option, &painter);
-        });
-        const QImage expected = painted(option.rect, [&](QPainter &painter) {
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(QPen(brush(VantraPalette::MenuLine), 1.0));
-            painter.setBrush(brush(VantraPalette::MenuBackground));
-            painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5.0, 5.0);
-        });
-        QVERIFY(sameButForSeams(ours, expected));
+        for (const double opacity : {1.0, 0.5}) {
+            const auto option = of<QStyleOptionMenuItem>({120, 80});
+            const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                painter.setOpacity(opacity);
+                mStyle.drawPrimitive(QStyle::PE_PanelMenu, &option, &painter);
+            });
+            const QImage expected = painted(option.rect, [&](QPainter &painter) {
+                painter.setOpacity(opacity);
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(QPen(brush(VantraPalette::MenuLine), 1.0));
+                painter.setBrush(brush(VantraPalette::MenuBackground));
+                painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5.0, 5.0);
+            });
+            QVERIFY(sameButForSeams(ours, expected));
+        }
     }
 
-    // Two strokes from fixed coordinates, in the middle of boxes of all parities.
+    // Two strokes from fixed coordinates, in the middle of boxes of all parities. A translucent painter shows
+    // where they overlap.
     void ticksAreTheirTwoStrokes()
     {
         for (const QSize &size : {QSize(16, 16), QSize(17, 16), QSize(16, 21), QSize(13, 15)}) {
-            auto option = of<QStyleOptionMenuItem>(size, kEnabled | QStyle::State_On);
-            const QImage ours = painted(option.rect, [&](QPainter &painter) {
-                mStyle.drawPrimitive(QStyle::PE_IndicatorMenuCheckMark, &option, &painter);
-            });
-            const QImage expected = painted(option.rect, [&](QPainter &painter) {
-                painter.setRenderHint(QPainter::Antialiasing);
-                painter.translate((size.width() - 11.2687 - 0.73125) * 0.5,
-                                  (size.height() - 7.48264 - 0.696475) * 0.5);
-                painter.setPen(QPen(brush(VantraPalette::Checkmark), 2.0, Qt::SolidLine, Qt::RoundCap));
-                painter.drawLine(QPointF(0.73125, 4.14313), QPointF(4.36875, 7.48264));
-                painter.drawLine(QPointF(4.36875, 7.48264), QPointF(11.2687, 0.696475));
-            });
-            QVERIFY(sameButForSeams(ours, expected));
+            for (const double opacity : {1.0, 0.5}) {
+                auto option = of<QStyleOptionMenuItem>(size, kEnabled | QStyle::State_On);
+                const QImage ours = painted(option.rect, [&](QPainter &painter) {
+                    painter.setOpacity(opacity);
+                    mStyle.drawPrimitive(QStyle::PE_IndicatorMenuCheckMark, &option, &painter);
+                });
+                const QImage expected = painted(option.rect, [&](QPainter &painter) {
+                    painter.setOpacity(opacity);
+                    painter.setRenderHint(QPainter::Antialiasing);
+                    painter.translate((size.width() - 11.2687 - 0.73125) * 0.5,
+                                      (size.height() - 7.48264 - 0.696475) * 0.5);
+                    painter.setPen(QPen(brush(VantraPalette::Checkmark), 2.0, Qt::SolidLine, Qt::RoundCap));
+                    painter.drawLine(QPointF(0.73125, 4.14313), QPointF(4.36875, 7.48264));
+                    painter.drawLine(QPointF(4.36875, 7.48264), QPointF(11.2687, 0.696475));
+                });
+                QCOMPARE(differenceOf(ours, expected).pixels, 0);
+            }
         }
     }
 

@@ -205,6 +205,41 @@ private slots:
         QCOMPARE(adjusted(), QColor(4, 4, 4));
     }
 
+    // A group that no theme file can name still isn't the group of another role.
+    void pairsAreKeptApart()
+    {
+        VantraColorPalette theme;
+        theme.setColor(P::Highlighted, P::Accent, Qt::blue);
+        const QPalette start(Qt::magenta);
+        const auto adjusted = [&](P::PaletteGroup inGroup, int inRole) {
+            QPalette palette = start;
+            theme.adjustPalette(inGroup, static_cast<P::PaletteRole>(inRole), QPalette::Text, nullptr,
+                                palette);
+            return palette.color(QPalette::Active, QPalette::Text);
+        };
+        QCOMPARE(adjusted(P::Highlighted, P::Accent), QColor(Qt::blue));
+        QCOMPARE(adjusted(static_cast<P::PaletteGroup>(-1), P::Accent + 1),
+                 start.color(QPalette::Active, QPalette::Text));
+    }
+
+    void texturesEndWithTheirPalette()
+    {
+        VantraColorPalette theme;
+        theme.setColor(P::Normal, P::Accent, Qt::blue);
+        QPixmap texture(8, 8);
+        texture.fill(Qt::green);
+        {
+            QPalette palette;
+            palette.setBrush(QPalette::Window, QBrush(texture));
+            const QPalette start = palette;
+            theme.adjustPalette(P::Normal, P::Accent, QPalette::Text, nullptr, palette);
+            QCOMPARE(palette.color(QPalette::Active, QPalette::Text), QColor(Qt::blue));
+            QCOMPARE(palette.brush(QPalette::Window), start.brush(QPalette::Window));
+            QVERIFY(!texture.isDetached());
+        }
+        QVERIFY(texture.isDetached());
+    }
+
     void leavesAPaletteThatWasChanged()
     {
         VantraColorPalette theme;

@@ -3,6 +3,7 @@
 #include "Support/ThemeFixture.h"
 #include "Theme/VantraFont.h"
 #include "Theme/VantraFontPalette.h"
+#include "VTDpiUtilsPretence.h"
 
 #include <QtCore/QJsonObject>
 #include <QtWidgets/QWidget>
@@ -143,6 +144,11 @@ private slots:
         QCOMPARE(adjusted(&widget), 12);
         VantraFont::setUserSelectedFontPointSizeModifier(2);
         QCOMPARE(adjusted(&widget), 14);
+        {
+            const VTDpiUtilsPretence doubled(2.0);
+            QCOMPARE(adjusted(&widget), 28);
+        }
+        QCOMPARE(adjusted(&widget), 14);
         QVERIFY(palette.loadConfig(config("{'group': 'Disabled', 'size': 30}")));
         QCOMPARE(adjusted(&widget), 32);
         widget.setFont(QFont("Roboto", 7));
@@ -154,6 +160,21 @@ private slots:
         QCOMPARE(adjusted(nullptr), 32);
         palette = VantraFontPalette();
         QCOMPARE(adjusted(nullptr), kSize);
+    }
+
+    // A group that no theme file can name still isn't the group of another role.
+    void pairsAreKeptApart()
+    {
+        VantraFontPalette palette;
+        QVERIFY(palette.loadConfig(config("{'group': 'Highlighted', 'size': 12}")));
+        const QFont start = startFont();
+        const auto sizeOf = [&](P::PaletteGroup inGroup, int inRole) {
+            QFont font = start;
+            palette.adjustFont(inGroup, static_cast<P::PaletteRole>(inRole), nullptr, font, true);
+            return font.pointSize();
+        };
+        QCOMPARE(sizeOf(P::Highlighted, P::ButtonText), 12);
+        QCOMPARE(sizeOf(static_cast<P::PaletteGroup>(-1), P::ButtonText + 1), kSize);
     }
 
     void measuresWithTheLargest()

@@ -41,6 +41,7 @@ private slots:
     void centreIsThatOfTheParent();
     void inactiveApplicationStaysInactive();
     void updatesComeBackAsTheyWere();
+    void updatesOfAChildComeBackWithItsParent();
 };
 
 void tst_VTWidgetUtils::mistakesStopTheProcess()
@@ -148,6 +149,22 @@ void tst_VTWidgetUtils::updatesComeBackAsTheyWere()
             QVERIFY(!widget.updatesEnabled());
         }
         QCOMPARE(widget.updatesEnabled(), enabled);
+    }
+}
+
+void tst_VTWidgetUtils::updatesOfAChildComeBackWithItsParent()
+{
+    QWidget parent;
+    QWidget child(&parent);
+    for (const auto &[outer, inner] : {std::pair(&parent, &child), std::pair(&child, &parent)}) {
+        {
+            const VTQtUpdatesBlocker outerBlocker(outer, VTQtUpdatesBlocker::BlockUpdates);
+            {
+                const VTQtUpdatesBlocker innerBlocker(inner, VTQtUpdatesBlocker::BlockUpdates);
+            }
+            QVERIFY(!child.updatesEnabled());
+        }
+        QVERIFY(parent.updatesEnabled() && child.updatesEnabled());
     }
 }
 

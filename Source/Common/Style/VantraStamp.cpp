@@ -51,7 +51,7 @@ bool applies(const QPainter *inPainter)
 {
     const QPaintEngine *engine = inPainter->paintEngine();
     if (engine == nullptr || engine->type() != QPaintEngine::Raster ||
-        inPainter->compositionMode() != QPainter::CompositionMode_SourceOver) {
+        inPainter->compositionMode() != QPainter::CompositionMode_SourceOver || inPainter->opacity() != 1.0) {
         return false;
     }
     const QTransform &transform = inPainter->deviceTransform();

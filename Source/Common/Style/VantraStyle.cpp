@@ -21,6 +21,7 @@
 #include "Theme/VantraStyleTheme.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QAbstractScrollArea>
@@ -60,6 +61,18 @@ bool isHoverable(const QWidget *inWidget)
            inWidget->inherits("QDockWidgetSeparator");
 }
 
+// QMenu::show() creates the window before it polishes the menu, and QMenu::popup() sets the layout direction
+// before. QWidget::setWindowFlags() would detach the menu from that window and reset that direction.
+void addMenuFlags(QMenu *ioMenu)
+{
+    const Qt::WindowFlags flags =
+        ioMenu->windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
+    ioMenu->overrideWindowFlags(flags);
+    if (QWindow *window = ioMenu->windowHandle()) {
+        window->setFlags(flags);
+    }
+}
+
 } // namespace
 
 VantraStyle::VantraStyle()
@@ -85,7 +98,7 @@ VantraStyle::VantraStyle()
 
     connect(&mAnimationTimer, &QTimer::timeout, this, &VantraStyle::onAnimationUpdate);
     mAnimationTimer.setInterval(kAnimationInterval);
-    mAnimationTimer.start();
+    ensureAnimationTimer();
 }
 
 VantraStyle::~VantraStyle() = default;
@@ -117,13 +130,15 @@ void VantraStyle::polish(QApplication *application)
     QApplication::setStartDragTime(kStartDragTime);
     QApplication::setStartDragDistance(kStartDragDistance);
     QProxyStyle::polish(application);
+    ensureAnimationTimer();
 }
 
 void VantraStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
+    ensureAnimationTimer();
     if (auto *menu = qobject_cast<QMenu *>(widget)) {
-        menu->setWindowFlags(menu->windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+        addMenuFlags(menu);
         menu->setAttribute(Qt::WA_TranslucentBackground);
     } else if (isHoverable(widget)) {
         widget->setAttribute(Qt::WA_Hover);
@@ -188,6 +203,13 @@ milliseconds VantraStyle::animationTime(const QWidget *widget) const
     }
     entry.lastQueryTime = now;
     return duration_cast<milliseconds>(now - entry.startTime);
+}
+
+void VantraStyle::ensureAnimationTimer()
+{
+    if (!mAnimationTimer.isActive() && QCoreApplication::instance() != nullptr) {
+        mAnimationTimer.start();
+    }
 }
 
 void VantraStyle::onAnimationUpdate()

@@ -93,6 +93,10 @@ private:
         QPointer<QWidget> widget; // null when another filter kept the widget's end from this style
     };
 
+    // Starts the timer once there is an application: a style may be made and set before that, when there is
+    // no event loop for a timer to run in.
+    void ensureAnimationTimer();
+
     // Each answers whether it handled the call; what they leave goes to Fusion.
     bool drawOwnPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                           const QWidget *widget) const;

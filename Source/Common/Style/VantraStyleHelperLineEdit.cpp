@@ -23,8 +23,9 @@ void VantraStyleHelperLineEdit::drawPanel(const VantraStyleOptionLineEdit &optio
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(brush);
     const double outerRadius = radius + kOutlineWidth * 0.25;
-    if (brush.color().alpha() == 255 && outerRadius * 2.0 < option.rect.height()) {
-        // What fill and outline of the path below come to, in one fill.
+    const bool opaque = brush.color().alpha() == 255 && painter->opacity() == 1.0;
+    if (opaque && outerRadius * 2.0 < qMin(option.rect.width(), option.rect.height())) {
+        // One opaque fill gives the same as fill and outline of the path below, and costs less.
         painter->setPen(Qt::NoPen);
         painter->drawRoundedRect(option.rect, outerRadius, outerRadius, Qt::AbsoluteSize);
         return;

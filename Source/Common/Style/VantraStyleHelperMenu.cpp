@@ -50,8 +50,8 @@ void VantraStyleHelperMenu::drawPanel(const VantraStyleOptionMenuItem &option, Q
     painter->setRenderHint(QPainter::Antialiasing);
     const QColor line = mTheme->menuItemLineColor(&option);
     const QBrush fill = mTheme->menuItemBrush(&option);
-    if (line.alpha() == 255 && fill.color().alpha() == 255) {
-        // What fill and outline of the shape below come to, in two nested fills.
+    if (line.alpha() == 255 && fill.color().alpha() == 255 && painter->opacity() == 1.0) {
+        // Two nested opaque fills give the same as fill and outline of the shape below, and cost less.
         painter->setPen(Qt::NoPen);
         painter->setBrush(QBrush(line));
         painter->drawRoundedRect(option.rect, radius + 0.5, radius + 0.5);

@@ -45,8 +45,10 @@ void VantraStyleHelperSlider::drawGroove(const VantraStyleOptionSlider &sliderOp
     const QRectF adjRect = grooveRect.adjusted(0.5, inset, -0.5, -inset);
     Q_ASSERT(adjRect.isValid() && !adjRect.isNull());
 
-    // The groove's round ends also bound the value span. Both are the rounded shape itself, the span through
-    // a rectangle between whole pixels: that comes to the same as a clip of the shape, and costs far less.
+    // The groove's round ends also bound the value span. Both are painted as the rounded shape, the span
+    // within a clip rectangle, since a clip of the shape costs far more. Only antialiased edge pixels differ
+    // from such a clip: a few in the corners, and the long edges where these don't lie on device pixels, at
+    // odd heights and fractional device pixel ratios.
     painter->setClipping(false);
     const int radius = mTheme->grooveRadius();
     painter->drawRoundedRect(adjRect, radius, radius, Qt::AbsoluteSize);

@@ -1,7 +1,9 @@
 #include "Style/VantraTextMeasure.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QPointer>
 #include <QtGui/QFontMetrics>
+#include <QtGui/QGuiApplication>
 
 #include <array>
 #include <optional>
@@ -19,14 +21,36 @@ constexpr qsizetype kRows = 16384;
 // Between two alternatives of different length in one text; Qt chooses among them.
 constexpr QChar kVariantSeparator(0x9c);
 
+// Counts the changes of the font database. Metrics stay equal to themselves when fonts are added or removed,
+// but may measure differently afterwards.
+int fontGeneration()
+{
+    static int sGeneration = 0;
+    static QPointer<QGuiApplication> sApplication;
+    if (sApplication != qGuiApp) {
+        sApplication = qGuiApp;
+        ++sGeneration;
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { ++sGeneration; });
+    }
+    return sGeneration;
+}
+
 struct Place
 {
     QString text;
     std::optional<QFontMetrics> metrics;
+    int generation = 0;
 
     bool holds(const QString &inText, const QFontMetrics &inMetrics) const
     {
-        return metrics && *metrics == inMetrics && text == inText;
+        return metrics && *metrics == inMetrics && generation == fontGeneration() && text == inText;
+    }
+
+    void take(const QString &inText, const QFontMetrics &inMetrics)
+    {
+        text = inText;
+        metrics = inMetrics;
+        generation = fontGeneration();
     }
 };
 
@@ -51,10 +75,13 @@ public:
     template <typename Measure>
     Value of(const QString &inText, const QFontMetrics &inMetrics, int inFlags, Measure inMeasure)
     {
-        if (!mMetrics || *mMetrics != inMetrics || mFlags != inFlags || mValues.size() >= kRows) {
+        const int generation = fontGeneration();
+        if (!mMetrics || *mMetrics != inMetrics || mFlags != inFlags || mGeneration != generation ||
+            mValues.size() >= kRows) {
             mValues.clear();
             mMetrics = inMetrics;
             mFlags = inFlags;
+            mGeneration = generation;
         }
         const auto found = mValues.constFind(inText);
         return found != mValues.cend() ? *found : *mValues.insert(inText, inMeasure());
@@ -64,6 +91,7 @@ private:
     QHash<QString, Value> mValues;
     std::optional<QFontMetrics> mMetrics;
     int mFlags = 0;
+    int mGeneration = 0;
 };
 
 template <typename PlaceType>
@@ -79,8 +107,7 @@ QSize size(const QString &inText, const QFontMetrics &inMetrics)
 {
     auto &place = placeOf<SizePlace>(inText);
     if (!place.holds(inText, inMetrics)) {
-        place.text = inText;
-        place.metrics = inMetrics;
+        place.take(inText, inMetrics);
         place.size = inMetrics.size(0, inText);
     }
     return place.size;
@@ -95,8 +122,7 @@ QString elided(const QString &inText, const QFontMetrics &inMetrics, Qt::TextEli
     }
     auto &place = placeOf<ElisionPlace>(inText);
     if (!place.holds(inText, inMetrics)) {
-        place.text = inText;
-        place.metrics = inMetrics;
+        place.take(inText, inMetrics);
         place.textWidth = QFontMetricsF(inMetrics).horizontalAdvance(inText);
         place.elidedWidth = -1;
     }

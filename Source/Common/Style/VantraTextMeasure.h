@@ -1,7 +1,8 @@
 #pragma once
 
 // Sizes and elisions of texts, remembered. Each costs a shaping of the text, and a control asks the same at
-// every paint and every layout. All widths are in logical pixels. GUI thread only.
+// every paint and every layout. All widths are in logical pixels. Nothing is remembered across a change of
+// the font database. GUI thread only.
 
 #include <QtCore/QSize>
 #include <QtCore/QString>

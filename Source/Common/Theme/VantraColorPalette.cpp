@@ -14,9 +14,26 @@ const QLatin1String kGroupKey("group");
 const QLatin1String kRoleKey("role");
 const QLatin1String kColorKey("color");
 
+constexpr std::size_t kMostAdjustments = 1024; // far more than a program uses with one theme
+
 QPalette::ColorGroup toColorGroup(VantraPalette::PaletteGroup inGroup)
 {
     return inGroup == VantraPalette::Disabled ? QPalette::Disabled : QPalette::Active;
+}
+
+// A kept palette with textures would hold their pixels until another palette takes its place.
+bool hasTextures(const QPalette &inPalette)
+{
+    for (int group = 0; group < QPalette::NColorGroups; ++group) {
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            const QBrush &brush = inPalette.brush(static_cast<QPalette::ColorGroup>(group),
+                                                  static_cast<QPalette::ColorRole>(role));
+            if (brush.style() == Qt::TexturePattern) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 const QBrush &missingBrush()
@@ -103,13 +120,21 @@ void VantraColorPalette::adjustPalette(PaletteGroup inGroup, PaletteRole inRole,
         }
     }
 
-    Adjustment &adjustment = mAdjustments[(inRole * 4 + inGroup) * QPalette::NColorRoles + inColorRole];
-    if (!adjustment.known || !ioPalette.isCopyOf(adjustment.input)) {
-        adjustment = {ioPalette, ioPalette, true};
-        writeColors(inGroup, inRole, inColorRole, adjustment.output);
+    const AdjustmentKey key{{inGroup, inRole}, inColorRole};
+    auto known = mAdjustments.find(key);
+    if (known == mAdjustments.end() || !ioPalette.isCopyOf(known->second.input)) {
+        if (hasTextures(ioPalette)) {
+            writeColors(inGroup, inRole, inColorRole, ioPalette);
+            return;
+        }
+        if (mAdjustments.size() >= kMostAdjustments) {
+            mAdjustments.clear();
+        }
+        known = mAdjustments.insert_or_assign(key, Adjustment{ioPalette, ioPalette}).first;
+        writeColors(inGroup, inRole, inColorRole, known->second.output);
     }
     const QPalette::ColorGroup current = ioPalette.currentColorGroup();
-    ioPalette = adjustment.output;
+    ioPalette = known->second.output;
     ioPalette.setCurrentColorGroup(current);
 }
 

@@ -72,18 +72,38 @@ private:
                                                  const QString &inAlias) const;
     const QBrush *find(PaletteGroup inGroup, PaletteRole inRole) const;
 
-    // One adjustment of the same shared palette, as it recurs at every paint. Writing it anew would copy all
-    // its brushes.
+    struct AdjustmentKey
+    {
+        Key entry;
+        QPalette::ColorRole colorRole;
+
+        friend bool operator==(const AdjustmentKey &inLeft, const AdjustmentKey &inRight)
+        {
+            return inLeft.entry == inRight.entry && inLeft.colorRole == inRight.colorRole;
+        }
+    };
+
+    struct AdjustmentKeyHash
+    {
+        std::size_t operator()(const AdjustmentKey &inKey) const
+        {
+            return KeyHash()(inKey.entry) * QPalette::NColorRoles + inKey.colorRole;
+        }
+    };
+
+    // The last adjustment of a shared palette, which recurs at every paint. Writing it again would copy all
+    // brushes of the palette.
     struct Adjustment
     {
         QPalette input;
         QPalette output;
-        bool known = false;
     };
 
     void writeColors(PaletteGroup inGroup, PaletteRole inRole, QPalette::ColorRole inColorRole,
                      QPalette &ioPalette) const;
 
     std::unordered_map<Key, QBrush, KeyHash> mBrushes;
-    mutable std::unordered_map<int, Adjustment> mAdjustments; // emptied by each change of a brush
+
+    // Emptied by each change of a brush. Bounded, since it keeps palettes of callers alive.
+    mutable std::unordered_map<AdjustmentKey, Adjustment, AdjustmentKeyHash> mAdjustments;
 };

@@ -66,12 +66,18 @@ bool VantraFontPalette::loadConfig(const QJsonObject &inObject)
     return true;
 }
 
+int VantraFontPalette::finalPointSize(const FontEntry &inEntry)
+{
+    return inEntry.pointSize > 0 ? VantraFont::scaledPointSize(qMin(inEntry.pointSize, kLargestPointSize))
+                                 : 0;
+}
+
 bool VantraFontPalette::applyEntry(const FontEntry &inEntry, bool inSizeFree, bool inWeightFree,
                                    QFont &ioFont) const
 {
     const bool setsSize = inSizeFree && inEntry.pointSize > 0;
     if (setsSize) {
-        ioFont.setPointSize(VantraFont::scaledPointSize(qMin(inEntry.pointSize, kLargestPointSize)));
+        ioFont.setPointSize(finalPointSize(inEntry));
     }
     if (inWeightFree) {
         // A weight that the file doesn't give, or misspells, becomes the lightest, as Qt bounds it.
@@ -100,11 +106,11 @@ bool VantraFontPalette::adjustFont(PaletteGroup inGroup, PaletteRole inRole, con
 
     const bool sizeFree = inWidget == nullptr || ioFont.pointSize() == inWidget->font().pointSize();
     const bool weightFree = inWidget == nullptr || ioFont.weight() == inWidget->font().weight();
-    const int modifier = VantraFont::userSelectedFontPointSizeModifier();
-    Adjustment &known = mAdjustments[(inRole * 4 + inGroup) * 2 + (inUseLargestFont ? 1 : 0)];
+    const int pointSize = finalPointSize(wanted);
+    Adjustment &known = mAdjustments[{{inGroup, inRole}, inUseLargestFont}];
     if (!ioFont.isCopyOf(known.input) || ioFont.resolveMask() != known.input.resolveMask() ||
-        modifier != known.modifier || sizeFree != known.sizeFree || weightFree != known.weightFree) {
-        known = {ioFont, ioFont, modifier, sizeFree, weightFree, false};
+        pointSize != known.pointSize || sizeFree != known.sizeFree || weightFree != known.weightFree) {
+        known = {ioFont, ioFont, pointSize, sizeFree, weightFree, false};
         known.changed = applyEntry(wanted, sizeFree, weightFree, known.output);
     }
     ioFont = known.output;

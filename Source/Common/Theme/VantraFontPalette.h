@@ -48,13 +48,32 @@ private:
         int weight = 0;    // QFont::Weight; below 1 the file gave none or an unknown word
     };
 
-    // One adjustment of the same shared font, as it recurs at every paint. Applying the entry anew would part
-    // the font from its engine, which then has to be looked up again.
+    struct AdjustmentKey
+    {
+        Key entry;
+        bool largest;
+
+        friend bool operator==(const AdjustmentKey &inLeft, const AdjustmentKey &inRight)
+        {
+            return inLeft.entry == inRight.entry && inLeft.largest == inRight.largest;
+        }
+    };
+
+    struct AdjustmentKeyHash
+    {
+        std::size_t operator()(const AdjustmentKey &inKey) const
+        {
+            return KeyHash()(inKey.entry) * 2 + (inKey.largest ? 1 : 0);
+        }
+    };
+
+    // The last adjustment of a shared font, which recurs at every paint. Applying the entry again would
+    // detach the font from its engine, which then has to be looked up again.
     struct Adjustment
     {
         QFont input;
         QFont output;
-        int modifier = 0;
+        int pointSize = 0; // final size of the entry, with the user's modifier and the display's scaling
         bool sizeFree = false;
         bool weightFree = false;
         bool changed = false;
@@ -62,8 +81,10 @@ private:
 
     const FontEntry *find(PaletteGroup inGroup, PaletteRole inRole) const;
 
+    static int finalPointSize(const FontEntry &inEntry);
     bool applyEntry(const FontEntry &inEntry, bool inSizeFree, bool inWeightFree, QFont &ioFont) const;
 
     std::unordered_map<Key, FontEntry, KeyHash> mFonts;
-    mutable std::unordered_map<int, Adjustment> mAdjustments; // emptied by each load
+    mutable std::unordered_map<AdjustmentKey, Adjustment, AdjustmentKeyHash>
+        mAdjustments; // emptied by each load
 };

@@ -6,7 +6,8 @@
 //     button->setIcon(VTWidgetsLoadIcon(":/VTWidgets/Buttons/Save.png", textColor, accentColor));
 //
 // A picture lies in two files, "Save.png" and "Save@2x.png". One that can't be loaded stops the process: it
-// is a fault of packaging, and there is no placeholder. Pixmaps, icons and menus belong to the GUI thread.
+// is a fault of packaging, and there is no placeholder. GUI thread only: even loading an image asks the
+// screens.
 
 #include "VTWidgetsLiteExport.h"
 
@@ -19,8 +20,7 @@ class QColor;
 class QMenu;
 class QWidget;
 
-// The double-resolution file on a high-resolution display, if there is one; otherwise the file itself. May be
-// called from any thread.
+// The double-resolution file on a high-resolution display, if there is one; otherwise the file itself.
 VTWIDGETSLITE_EXPORT QImage VTWidgetsLoadImage(const QString &inPath);
 
 // The double-resolution file on a high-resolution display, whether there is one or not: a picture without it

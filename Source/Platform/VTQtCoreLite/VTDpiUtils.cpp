@@ -1,13 +1,31 @@
 #include "VTDpiUtils.h"
 
+#include "VTDpiUtilsPretence.h"
+
 #include <QtCore/QtMath>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 
+namespace {
+
+double sFontScale = 1.0; // Qt 6 scales by itself
+
+} // namespace
+
+VTDpiUtilsPretence::VTDpiUtilsPretence(double inFontScale) : mEarlier(sFontScale)
+{
+    sFontScale = inFontScale;
+}
+
+VTDpiUtilsPretence::~VTDpiUtilsPretence()
+{
+    sFontScale = mEarlier;
+}
+
 int VTDpiUtils::scaleFontPointSize(int inPointSize)
 {
-    return inPointSize;
+    return qRound(inPointSize * sFontScale);
 }
 
 bool VTDpiUtils::canUseHighDpiImages()

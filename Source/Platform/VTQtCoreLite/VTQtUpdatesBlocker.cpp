@@ -12,15 +12,16 @@ VTQtUpdatesBlocker::VTQtUpdatesBlocker(QObject *inWidget, BlockingMode inMode) :
 {
     Q_ASSERT(inMode == BlockUpdates);
     Q_UNUSED(inMode);
-    if (mWidget != nullptr) {
-        mUpdatesWereEnabled = mWidget->property(kUpdatesProperty).toBool();
-        mWidget->setProperty(kUpdatesProperty, false);
+    // A widget that is blocked through its parent must not be disabled itself: it would stay so when the
+    // parent's updates come back.
+    if (mWidget != nullptr && mWidget->property(kUpdatesProperty).toBool()) {
+        mDisabledUpdates = mWidget->setProperty(kUpdatesProperty, false);
     }
 }
 
 VTQtUpdatesBlocker::~VTQtUpdatesBlocker()
 {
-    if (mWidget != nullptr && mUpdatesWereEnabled) {
+    if (mWidget != nullptr && mDisabledUpdates) {
         mWidget->setProperty(kUpdatesProperty, true);
     }
 }

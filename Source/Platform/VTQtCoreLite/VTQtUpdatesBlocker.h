@@ -6,8 +6,10 @@
 //     showNormal();
 //     showMaximized();
 //
-// At the end the widget's earlier state comes back, and with it one repaint. Blockers of one widget may nest.
-// The widget may be null, and may end before the blocker. GUI thread only.
+// At the end the widget's earlier state comes back, and with it one repaint. A widget whose updates are
+// already disabled, itself or through its parent, is left unchanged. Blockers of one widget, or of a widget
+// and its parent, may nest: the one constructed last must be destroyed first. The widget may be null, and may
+// end before the blocker. GUI thread only.
 
 #include "VTQtCoreLiteExport.h"
 
@@ -28,5 +30,5 @@ private:
     Q_DISABLE_COPY_MOVE(VTQtUpdatesBlocker)
 
     QPointer<QObject> mWidget;
-    bool mUpdatesWereEnabled = true;
+    bool mDisabledUpdates = false;
 };
