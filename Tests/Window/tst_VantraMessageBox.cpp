@@ -106,6 +106,8 @@ private slots:
     void openButtonDoesItsWorkAndStays();
     void slotMayCloseOrDelete();
     void checkBoxStaysAndTells();
+    void onlyChoiceIsTheWayOut_data();
+    void onlyChoiceIsTheWayOut();
     void foreignCheckBoxMayGo();
     void tabVisitsEveryButton();
     void centresOnWhatIsVisible();
@@ -308,6 +310,40 @@ void tst_VantraMessageBox::checkBoxStaysAndTells()
         QVERIFY(box.isDontShowMeThisAgainChecked());
         QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.first().first().toInt(), static_cast<int>(Qt::Checked));
+    }
+}
+
+void tst_VantraMessageBox::onlyChoiceIsTheWayOut_data()
+{
+    QTest::addColumn<bool>("details");
+    QTest::addColumn<bool>("secondChoice");
+    QTest::newRow("one choice") << false << false;
+    QTest::newRow("one choice and details") << true << false;
+    QTest::newRow("two choices") << false << true;
+    QTest::newRow("two choices and details") << true << true;
+}
+
+void tst_VantraMessageBox::onlyChoiceIsTheWayOut()
+{
+    QFETCH(const bool, details);
+    QFETCH(const bool, secondChoice);
+    for (const bool byKey : {true, false}) {
+        VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), true);
+        if (secondChoice) {
+            box.addButton(text("Replace"), QMessageBox::ActionRole);
+        }
+        if (details) {
+            box.setDetailedText(text("Details"));
+        }
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        if (byKey) {
+            QTest::keyClick(&box, Qt::Key_Escape);
+        } else {
+            box.windowHandle()->close();
+        }
+        QCOMPARE(box.isVisible(), secondChoice);
+        QCOMPARE(box.clickedButton(), secondChoice ? nullptr : box.button(QMessageBox::Ok));
     }
 }
 

@@ -317,15 +317,26 @@ void VantraMessageBox::done(int inResult)
 }
 
 // A check box in the row isn't a choice, though QMessageBox counts it as one and then finds that Escape is
-// ambiguous.
+// ambiguous. Without a check box QMessageBox finds the only choice itself.
 void VantraMessageBox::offerOnlyButtonToEscape()
 {
     QList<QAbstractButton *> choices = buttons();
-    choices.removeIf(
+    const auto checkBoxes = choices.removeIf(
         [](const QAbstractButton *inButton) { return qobject_cast<const QCheckBox *>(inButton) != nullptr; });
-    if (escapeButton() == nullptr && choices.count() == 1 && choices.count() != buttons().count()) {
+    if (!detailedText().isEmpty() && choices.count() == 2) {
+        choices.removeIf([this](QAbstractButton *inButton) { return mayBeDetailsButton(inButton); });
+    }
+    if (escapeButton() == nullptr && checkBoxes > 0 && choices.count() == 1) {
         setEscapeButton(choices.first());
     }
+}
+
+// True for the button that QMessageBox adds for a detailed text, since QMessageBox gives no access to it.
+// Also true for an action button that the application added by a function of QMessageBox.
+bool VantraMessageBox::mayBeDetailsButton(QAbstractButton *inButton) const
+{
+    return standardButton(inButton) == QMessageBox::NoButton &&
+           buttonRole(inButton) == QMessageBox::ActionRole && !mButtonClosesDialogMap.contains(inButton);
 }
 
 // Once a button has been clicked, QMessageBox no longer takes its own closing for a click on the escape

@@ -112,6 +112,7 @@ private:
     void insertDontShowMeAgainCheckbox();
     void wrapInformativeText();
     void offerOnlyButtonToEscape();
+    bool mayBeDetailsButton(QAbstractButton *inButton) const;
     void enterButton(QAbstractButton *inButton, bool inCloseDialog);
     void clickWithoutClosing(QAbstractButton *inButton);
 
