@@ -100,6 +100,7 @@ private slots:
     void mistakesStopTheProcess();
     void textIsBoldAndKeepsItsLines();
     void informativeTextIsSmallerAndWide();
+    void visibleBoxMayChange();
     void anyTextIsShownWhole();
     void everyWayOfClosing_data();
     void everyWayOfClosing();
@@ -183,6 +184,36 @@ void tst_VantraMessageBox::informativeTextIsSmallerAndWide()
         // Nothing of an earlier layout is left behind at the corner.
         QVERIFY(box.childAt(1, 1) == nullptr);
         box.hide();
+    }
+}
+
+void tst_VantraMessageBox::visibleBoxMayChange()
+{
+    const std::vector<std::function<void(VantraMessageBox *)>> changes = {
+        [](VantraMessageBox *ioBox) { ioBox->setInformativeText(QString()); },
+        [](VantraMessageBox *ioBox) { ioBox->setInformativeText(text("Other")); },
+        [](VantraMessageBox *ioBox) { ioBox->setDetailedText(text("Details")); },
+        [](VantraMessageBox *ioBox) { ioBox->setIconPixmap(QPixmap(16, 16)); },
+        [](VantraMessageBox *ioBox) {
+            ioBox->setInformativeText(QString());
+            ioBox->setInformativeText(text("Again"));
+        },
+    };
+    for (const auto &change : changes) {
+        VantraMessageBox box(text("Title"), text("Text"), text("More. ").repeated(100), QMessageBox::Ok,
+                             mParent.get(), false);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        change(&box);
+        QCoreApplication::processEvents();
+        if (const auto *label = box.findChild<QLabel *>(text("qt_msgbox_informativelabel"))) {
+            QVERIFY(label->width() >= 350);
+            QTRY_VERIFY(box.rect().contains(QRect(label->mapTo(&box, QPoint()), label->size())));
+        }
+        const QAbstractButton *button = box.button(QMessageBox::Ok);
+        QTest::mouseClick(box.windowHandle(), Qt::LeftButton, {},
+                          button->mapTo(&box, button->rect().center()));
+        QVERIFY(!box.isVisible());
     }
 }
 
