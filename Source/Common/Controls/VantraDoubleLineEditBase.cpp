@@ -173,7 +173,8 @@ void VantraDoubleLineEditBase::keyPressEvent(QKeyEvent *event)
 
 void VantraDoubleLineEditBase::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+    // X11 sends a release before each press of a held key.
+    if ((event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) && !event->isAutoRepeat()) {
         stopKeyPressElapsedTimer();
     }
     QLineEdit::keyReleaseEvent(event);

@@ -54,7 +54,7 @@ public:
 
     // Start and stop the clock by which steps grow, for stepping by means of the application's own. Starting
     // a running clock does nothing. Release of the key, loss of the focus and deactivation of the application
-    // stop it too.
+    // stop it too. The releases of an auto-repeated key do not.
     void startKeyPressElapsedTimer();
     void stopKeyPressElapsedTimer();
 
