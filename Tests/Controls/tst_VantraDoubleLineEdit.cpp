@@ -53,8 +53,10 @@ struct Form : QWidget
     // Any character, as a keyboard of its language sends it.
     void type(const QString &inText)
     {
-        for (const QChar letter : inText) {
-            QTest::sendKeyEvent(QTest::Click, &field, Qt::Key(letter.toUpper().unicode()), letter, {});
+        const QList<uint> letters = inText.toUcs4();
+        for (const char32_t letter : letters) {
+            QTest::sendKeyEvent(QTest::Click, &field, Qt::Key(QChar::toUpper(letter)),
+                                QString::fromUcs4(&letter, 1), {});
         }
     }
     void paste(const QString &inText)
@@ -121,6 +123,11 @@ const QList<LocaleRow> &localeRows()
           {Up, "", QString::fromUtf8("١٢٫٥١"), 12.51}, {Set, "3", QString::fromUtf8("٣٫٠٠"), 3},
           {Type, "7.5", "75", 75}, {Type, "2500", "2500", 2500},
           {Leave, "", QString::fromUtf8("٢٬٠٠٠٫٠٠"), 2000}}},
+        // Each digit takes two UTF-16 units.
+        {"ff_Adlm_GN", 0, 2000, 2,
+         {{Set, "3", QString::fromUtf8("𞥓.𞥐𞥐"), 3}, {Up, "", QString::fromUtf8("𞥓.𞥐𞥑"), 3.01},
+          {Type, QString::fromUtf8("𞥑𞥒.𞥕"), QString::fromUtf8("𞥑𞥒.𞥕"), 12.5},
+          {Type, QString::fromUtf8("𞥒𞥕𞥐𞥐"), QString::fromUtf8("𞥒𞥕𞥐𞥐"), 2500}}},
     };
     // clang-format on
     return sRows;

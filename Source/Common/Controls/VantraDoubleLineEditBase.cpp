@@ -24,6 +24,14 @@ double bounded(double min, double value, double max)
     return qMax(min, qMin(max, value));
 }
 
+// The digits of some scripts take two UTF-16 units each.
+void chopCharacters(QString &ioText, int inCount)
+{
+    for (int count = 0; count < inCount && !ioText.isEmpty(); ++count) {
+        ioText.chop(ioText.back().isLowSurrogate() ? 2 : 1);
+    }
+}
+
 void trimEnd(QString &ioText, int inDecimals)
 {
     const QString decimalPoint = VTQtLocale().decimalPoint();
@@ -132,7 +140,7 @@ void VantraDoubleLineEditBase::setValue(double doubleValue)
     }
     const double clamped = bounded(minimum(), doubleValue, maximum());
     QString text = VTQtLocale().toString(clamped, decimals() > 0 ? 'f' : 'd', kWrittenDecimals);
-    text.chop(kWrittenDecimals - decimals());
+    chopCharacters(text, kWrittenDecimals - decimals());
     if (decimals() > 0) {
         trimEnd(text, decimals());
     }
