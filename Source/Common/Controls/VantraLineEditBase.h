@@ -58,8 +58,10 @@ protected:
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    // Leaves State_Sunken out: the panel that Qt itself draws under the text is then that of a bare field,
-    // which covers the field's own only while hovered.
+
+    // Clears State_Sunken and sets the theme's text color for the state. Also clears State_MouseOver while Qt
+    // draws its own panel over the field's. Qt's panel is then that of a field without border and without the
+    // pointer. The stock theme makes it transparent, so that the field's own panel stays visible.
     void initStyleOption(QStyleOptionFrame *option) const override;
 
 private slots:
