@@ -221,6 +221,7 @@ private slots:
     void focusSelectsAll();
     void keysThatDoNothing();
     void heldKeyStepsFaster();
+    void contextMenuCommitsNothing();
     void randomInputLeavesNoBadText();
     void wrongRangesStopTheProcess();
     void assistantsSeeATextField();
@@ -364,6 +365,26 @@ void tst_VantraDoubleLineEdit::heldKeyStepsFaster()
     form.field.setValue(10.0);
     form.field.setDecimals(1);
     QCOMPARE(stepOf([&form] { form.field.increment(); }), 100);
+}
+
+void tst_VantraDoubleLineEdit::contextMenuCommitsNothing()
+{
+    Form form;
+    QVERIFY(form.start());
+    form.type(QStringLiteral("500"));
+    QCoreApplication::processEvents(); // the focus selects the text now
+    form.field.setSelection(1, 1);
+    form.log.clear();
+    QMenu *menu = UserActions::openContextMenu(&form.field);
+    QVERIFY(menu != nullptr);
+    QCOMPARE(form.field.text(), QStringLiteral("500"));
+    QCOMPARE(form.field.selectedText(), QStringLiteral("0"));
+    QCOMPARE(form.log, QStringList());
+    menu->close();
+    form.field.setText(QStringLiteral("50"));
+    form.field.setSelection(0, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(form.field.selectedText(), QStringLiteral("5"));
 }
 
 // Whatever is typed, pasted, stepped and set, a text that stays when the focus has left is a good one. There

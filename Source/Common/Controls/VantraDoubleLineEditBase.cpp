@@ -190,14 +190,21 @@ void VantraDoubleLineEditBase::keyReleaseEvent(QKeyEvent *event)
 
 void VantraDoubleLineEditBase::focusInEvent(QFocusEvent *event)
 {
+    const bool isBackFromOwnPopup = isFocusChangeForOwnPopup(event);
     VantraLineEditBase::focusInEvent(event);
-    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    if (!isBackFromOwnPopup) {
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    }
 }
 
 void VantraDoubleLineEditBase::focusOutEvent(QFocusEvent *event)
 {
     stopKeyPressElapsedTimer();
+    const bool isForOwnPopup = isFocusChangeForOwnPopup(event);
     VantraLineEditBase::focusOutEvent(event);
+    if (isForOwnPopup) {
+        return;
+    }
 
     QString text = this->text();
     if (isTextValid(text)) {
