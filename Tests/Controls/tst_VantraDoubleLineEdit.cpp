@@ -203,6 +203,12 @@ FATAL_CASE(setValueOnEmptyRange)
     field.setValue(50.0);
 }
 
+FATAL_CASE(fieldOutlivesTheApplication)
+{
+    const VantraDoubleLineEditBase field;
+    qApp->~QApplication();
+}
+
 class tst_VantraDoubleLineEdit : public QObject
 {
     Q_OBJECT
@@ -222,6 +228,7 @@ private slots:
     void keysThatDoNothing();
     void heldKeyStepsFaster();
     void contextMenuCommitsNothing();
+    void mayOutliveTheApplication();
     void randomInputLeavesNoBadText();
     void wrongRangesStopTheProcess();
     void assistantsSeeATextField();
@@ -385,6 +392,12 @@ void tst_VantraDoubleLineEdit::contextMenuCommitsNothing()
     form.field.setSelection(0, 1);
     QCoreApplication::processEvents();
     QCOMPARE(form.field.selectedText(), QStringLiteral("5"));
+}
+
+void tst_VantraDoubleLineEdit::mayOutliveTheApplication()
+{
+    const FatalTest::Outcome outcome = FatalTest::run("fieldOutlivesTheApplication");
+    QVERIFY2(!outcome.aborted, qPrintable(outcome.output));
 }
 
 // Whatever is typed, pasted, stepped and set, a text that stays when the focus has left is a good one. There

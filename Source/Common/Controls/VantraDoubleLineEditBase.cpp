@@ -61,7 +61,10 @@ VantraDoubleLineEditBase::VantraDoubleLineEditBase(QWidget *inParent)
 
 VantraDoubleLineEditBase::~VantraDoubleLineEditBase()
 {
-    QCoreApplication::instance()->removeEventFilter(this);
+    // The application object may be gone before a field of static lifetime.
+    if (QCoreApplication *application = QCoreApplication::instance()) {
+        application->removeEventFilter(this);
+    }
 }
 
 double VantraDoubleLineEditBase::value() const
