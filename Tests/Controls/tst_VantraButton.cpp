@@ -8,6 +8,7 @@
 #include "Theme/VantraFont.h"
 
 #include <QtGui/QAccessible>
+#include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
 #include <memory>
@@ -112,6 +113,8 @@ private slots:
     void badgeShowsTheWholeNumber();
     void badgeLetsClicksReachTheButton();
     void badgeMovesToANewParent();
+    void badgeIsAboveItsSiblings();
+    void badgeIsNoPaneOfASplitter();
     void badgeEndsWithItsParent();
     void badgeOfADeletedButtonIsHidden();
     void descriptionTellsTheCount();
@@ -375,6 +378,49 @@ void tst_VantraButton::badgeMovesToANewParent()
     QVERIFY(!button->notificationBadgeEnabled());
     QCOMPARE(descriptionOf(button.get()), QString());
     button->repaint();
+}
+
+void tst_VantraButton::badgeIsAboveItsSiblings()
+{
+    Scene scene;
+    QWidget other;
+    const auto top = [&scene] { return scene.button->parentWidget()->children().last(); };
+    scene.enableBadge(0);
+    QObject *badge = scene.badge();
+    QWidget cover(&scene);
+    scene.button->setNotificationBadgeCount(7);
+    QCOMPARE(top(), badge);
+    scene.button->raise();
+    QCOMPARE(top(), badge);
+    // What the application puts on top stays there.
+    cover.raise();
+    scene.button->repaint();
+    scene.button->lower();
+    QCOMPARE(top(), &cover);
+    other.show();
+    scene.button->setParent(&other);
+    const QWidget later(&other);
+    scene.button->show();
+    QCOMPARE(top(), badge);
+}
+
+void tst_VantraButton::badgeIsNoPaneOfASplitter()
+{
+    QSplitter first;
+    QSplitter second;
+    auto *button = new VantraButton(&first);
+    button->setNotificationBadgeEnabled(true);
+    auto *badge = first.findChild<VantraLabel *>();
+    for (QSplitter *splitter : {&first, &second}) {
+        splitter->addWidget(button);
+        splitter->show();
+        QVERIFY(QTest::qWaitForWindowExposed(splitter));
+        QCOMPARE(badge->isVisible(), splitter == &second);
+        button->setNotificationBadgeCount(7);
+        QVERIFY(badge->isVisible());
+        QCOMPARE(badge->parentWidget(), splitter);
+        QCOMPARE(splitter->count(), 1);
+    }
 }
 
 void tst_VantraButton::badgeEndsWithItsParent()

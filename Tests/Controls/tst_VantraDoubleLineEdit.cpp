@@ -53,8 +53,10 @@ struct Form : QWidget
     // Any character, as a keyboard of its language sends it.
     void type(const QString &inText)
     {
-        for (const QChar letter : inText) {
-            QTest::sendKeyEvent(QTest::Click, &field, Qt::Key(letter.toUpper().unicode()), letter, {});
+        const QList<uint> letters = inText.toUcs4();
+        for (const char32_t letter : letters) {
+            QTest::sendKeyEvent(QTest::Click, &field, Qt::Key(QChar::toUpper(letter)),
+                                QString::fromUcs4(&letter, 1), {});
         }
     }
     void paste(const QString &inText)
@@ -121,6 +123,11 @@ const QList<LocaleRow> &localeRows()
           {Up, "", QString::fromUtf8("١٢٫٥١"), 12.51}, {Set, "3", QString::fromUtf8("٣٫٠٠"), 3},
           {Type, "7.5", "75", 75}, {Type, "2500", "2500", 2500},
           {Leave, "", QString::fromUtf8("٢٬٠٠٠٫٠٠"), 2000}}},
+        // Each digit takes two UTF-16 units.
+        {"ff_Adlm_GN", 0, 2000, 2,
+         {{Set, "3", QString::fromUtf8("𞥓.𞥐𞥐"), 3}, {Up, "", QString::fromUtf8("𞥓.𞥐𞥑"), 3.01},
+          {Type, QString::fromUtf8("𞥑𞥒.𞥕"), QString::fromUtf8("𞥑𞥒.𞥕"), 12.5},
+          {Type, QString::fromUtf8("𞥒𞥕𞥐𞥐"), QString::fromUtf8("𞥒𞥕𞥐𞥐"), 2500}}},
     };
     // clang-format on
     return sRows;
@@ -163,6 +170,12 @@ const QList<EndRow> kEndRows = {
     {"half typed", ".", Qt::Key_Tab, {"changed 1", "bad . 1 100 2"}},
 };
 
+// Sends one of the events that a held Up key repeats.
+void repeatKey(QWidget *inField, QTest::KeyAction inAction)
+{
+    QTest::simulateEvent(inField, inAction == QTest::Press, Qt::Key_Up, {}, QString(), true);
+}
+
 void stepByKey(double inMinimum, double inMaximum)
 {
     VantraDoubleLineEditBase field;
@@ -190,6 +203,12 @@ FATAL_CASE(setValueOnEmptyRange)
     field.setValue(50.0);
 }
 
+FATAL_CASE(fieldOutlivesTheApplication)
+{
+    const VantraDoubleLineEditBase field;
+    qApp->~QApplication();
+}
+
 class tst_VantraDoubleLineEdit : public QObject
 {
     Q_OBJECT
@@ -208,6 +227,8 @@ private slots:
     void focusSelectsAll();
     void keysThatDoNothing();
     void heldKeyStepsFaster();
+    void contextMenuCommitsNothing();
+    void mayOutliveTheApplication();
     void randomInputLeavesNoBadText();
     void wrongRangesStopTheProcess();
     void assistantsSeeATextField();
@@ -336,7 +357,9 @@ void tst_VantraDoubleLineEdit::heldKeyStepsFaster()
     form.field.startKeyPressElapsedTimer();
     QCOMPARE(stepOf(press), 1);
     QTest::qWait(1050);
-    QVERIFY(stepOf(press) >= 400); // in tenths, whatever the decimals
+    repeatKey(&form.field, QTest::Release); // X11 sends one before each press that it repeats
+    const auto repeat = [&form] { repeatKey(&form.field, QTest::Press); };
+    QVERIFY(stepOf(repeat) >= 400); // in tenths, whatever the decimals
     QCOMPARE(stepOf([&form] { form.field.decrement(); }) % 200, 0);
     QTest::keyRelease(&form.field, Qt::Key_Up);
     QCOMPARE(stepOf(press), 1);
@@ -349,6 +372,32 @@ void tst_VantraDoubleLineEdit::heldKeyStepsFaster()
     form.field.setValue(10.0);
     form.field.setDecimals(1);
     QCOMPARE(stepOf([&form] { form.field.increment(); }), 100);
+}
+
+void tst_VantraDoubleLineEdit::contextMenuCommitsNothing()
+{
+    Form form;
+    QVERIFY(form.start());
+    form.type(QStringLiteral("500"));
+    QCoreApplication::processEvents(); // the focus selects the text now
+    form.field.setSelection(1, 1);
+    form.log.clear();
+    QMenu *menu = UserActions::openContextMenu(&form.field);
+    QVERIFY(menu != nullptr);
+    QCOMPARE(form.field.text(), QStringLiteral("500"));
+    QCOMPARE(form.field.selectedText(), QStringLiteral("0"));
+    QCOMPARE(form.log, QStringList());
+    menu->close();
+    form.field.setText(QStringLiteral("50"));
+    form.field.setSelection(0, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(form.field.selectedText(), QStringLiteral("5"));
+}
+
+void tst_VantraDoubleLineEdit::mayOutliveTheApplication()
+{
+    const FatalTest::Outcome outcome = FatalTest::run("fieldOutlivesTheApplication");
+    QVERIFY2(!outcome.aborted, qPrintable(outcome.output));
 }
 
 // Whatever is typed, pasted, stepped and set, a text that stays when the focus has left is a good one. There

@@ -71,6 +71,7 @@ private slots:
     void groupSeparatorKeyDoesNothing();
     void focusUnderlines();
     void focusSelectsAllWhenAsked();
+    void onlyForeignMenusTakeTheFocus();
     void textColorFollowsPointerAndState();
     void tabAndReturnAreNoShortcuts();
     void panelLiesBeneathTheText_data() { DataRows::add(kPanelRows); }
@@ -124,6 +125,26 @@ void tst_VantraLineEdit::focusSelectsAllWhenAsked()
     UserActions::slowly();
     UserActions::click(&form.edit, form.edit.rect().center());
     QTRY_COMPARE(form.edit.selectedText(), QStringLiteral("Text"));
+}
+
+void tst_VantraLineEdit::onlyForeignMenusTakeTheFocus()
+{
+    for (const bool foreign : {false, true}) {
+        Form form;
+        form.edit.setText(QStringLiteral("Text"));
+        form.edit.setSelectAllOnFocus(true);
+        QVERIFY(UserActions::showActive(form));
+        form.edit.setFocus();
+        QTRY_COMPARE(form.edit.selectedText(), QStringLiteral("Text"));
+        form.edit.setSelection(1, 2);
+        QMenu *menu =
+            foreign ? UserActions::openMenuOf(&form.button) : UserActions::openContextMenu(&form.edit);
+        QVERIFY(menu != nullptr && menu->isVisible());
+        QCOMPARE(form.edit.font().underline(), !foreign);
+        menu->close();
+        QCoreApplication::processEvents();
+        QCOMPARE(form.edit.selectedText(), foreign ? QStringLiteral("Text") : QStringLiteral("ex"));
+    }
 }
 
 void tst_VantraLineEdit::textColorFollowsPointerAndState()

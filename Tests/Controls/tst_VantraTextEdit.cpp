@@ -61,9 +61,23 @@ constexpr LeaveRow kLeaveRows[] = {
     {"Tab", Qt::TabFocusReason, true, false, 1},
     {"mouse", Qt::MouseFocusReason, true, false, 1},
     {"another window", Qt::ActiveWindowFocusReason, true, false, 0},
+    {"a popup that isn't known", Qt::PopupFocusReason, true, false, 1},
     {"by program", Qt::OtherFocusReason, true, false, 0},
     {"Tab types", Qt::MouseFocusReason, false, false, 0},
     {"read only", Qt::TabFocusReason, true, true, 0},
+};
+
+struct MenuRow
+{
+    const char *name;
+    QMenu *(*open)(Form *inForm);
+    bool foreign;
+};
+
+constexpr MenuRow kMenuRows[] = {
+    {"context menu", [](Form *inForm) { return UserActions::openContextMenu(&inForm->edit); }, false},
+    {"the box's menu", [](Form *inForm) { return UserActions::openMenuOf(&inForm->edit); }, false},
+    {"the button's menu", [](Form *inForm) { return UserActions::openMenuOf(&inForm->button); }, true},
 };
 
 } // namespace
@@ -84,6 +98,8 @@ private slots:
     void leavingEndsTheEditing_data() { DataRows::add(kLeaveRows); }
     void leavingEndsTheEditing();
     void focusSelectsAndUnderlines();
+    void onlyForeignMenusTakeTheFocus_data() { DataRows::add(kMenuRows); }
+    void onlyForeignMenusTakeTheFocus();
     void lookFollowsPointerAndStyle();
     void assistantsSeeATextField();
 };
@@ -137,6 +153,24 @@ void tst_VantraTextEdit::focusSelectsAndUnderlines()
     form.edit.setReadOnly(true);
     form.edit.setFocus();
     QVERIFY(!form.edit.textCursor().hasSelection());
+}
+
+void tst_VantraTextEdit::onlyForeignMenusTakeTheFocus()
+{
+    const MenuRow row = DataRows::current(kMenuRows);
+    Form form;
+    QVERIFY(UserActions::showActive(form));
+    form.edit.setFocus();
+    QTest::keyClick(form.windowHandle(), Qt::Key_End);
+    QTest::keyClick(form.windowHandle(), Qt::Key_Left, Qt::ShiftModifier);
+    QSignalSpy finished(&form.edit, &VantraTextEdit::editingFinished);
+    QMenu *menu = row.open(&form);
+    QVERIFY(menu != nullptr && menu->isVisible());
+    QCOMPARE(form.edit.font().underline(), !row.foreign);
+    QCOMPARE(finished.count(), row.foreign ? 1 : 0);
+    menu->close();
+    QCOMPARE(form.edit.textCursor().selectedText(),
+             row.foreign ? QStringLiteral("Text") : QStringLiteral("t"));
 }
 
 void tst_VantraTextEdit::lookFollowsPointerAndStyle()

@@ -83,6 +83,24 @@ inline bool showActive(QWidget &ioWindow)
     return QTest::qWaitForWindowActive(&ioWindow);
 }
 
+// Opens the context menu of a field. Returns null if none opened.
+inline QMenu *openContextMenu(QWidget *inField)
+{
+    const QPoint position = inField->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, position, inField->mapToGlobal(position));
+    QCoreApplication::sendEvent(inField, &event);
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+// Opens a menu that the application gave to a widget. The widget owns the menu.
+inline QMenu *openMenuOf(QWidget *ioWidget)
+{
+    auto *menu = new QMenu(ioWidget);
+    menu->addAction(QStringLiteral("Entry"));
+    menu->popup(QPoint());
+    return menu;
+}
+
 // Long enough that what follows is no part of a double click.
 inline void slowly()
 {

@@ -197,6 +197,7 @@ private slots:
     void lastWindowIsTheActiveOne();
     void keyPressReachesTheMenuBeforeTheAction_data() { DataRows::add(pressRows()); }
     void keyPressReachesTheMenuBeforeTheAction();
+    void menuMayGoWhileMetaIsReported();
     void remappedKeysAreFollowed();
     void triggeringByProgram();
     void mistakesStopTheProcess();
@@ -231,6 +232,23 @@ void tst_VantraMainWindow::keyPressReachesTheMenuBeforeTheAction()
     QTRY_COMPARE(editor.log.join(QStringLiteral(", ")), QString::fromLatin1(row.log));
     editor.unregisterAll();
     editor.verifyUnregisteredAboutToTriggerShortcuts();
+}
+
+void tst_VantraMainWindow::menuMayGoWhileMetaIsReported()
+{
+    Editor editor;
+    const VTQtSysInfoPretence pretence(kMac);
+    editor.keySequenceChanged({}, {});
+    auto *recent = new QMenu(&editor);
+    recent->addAction(QStringLiteral("Last"))->setShortcut(keys("Meta+Z"));
+    editor.registerAboutToTriggerShortcut(recent);
+    connect(editor.tools, &QMenu::aboutToShow, &editor, [&] {
+        editor.unregisterAboutToTriggerShortcut(recent);
+        delete recent;
+    });
+    editor.showActive();
+    QTest::keyClick(editor.windowHandle(), Qt::Key_Meta);
+    QTRY_COMPARE(editor.log.join(QStringLiteral(", ")), QStringLiteral("Meta+J, Tools shows"));
 }
 
 void tst_VantraMainWindow::remappedKeysAreFollowed()

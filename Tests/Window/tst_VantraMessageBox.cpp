@@ -100,12 +100,15 @@ private slots:
     void mistakesStopTheProcess();
     void textIsBoldAndKeepsItsLines();
     void informativeTextIsSmallerAndWide();
+    void visibleBoxMayChange();
     void anyTextIsShownWhole();
     void everyWayOfClosing_data();
     void everyWayOfClosing();
     void openButtonDoesItsWorkAndStays();
     void slotMayCloseOrDelete();
     void checkBoxStaysAndTells();
+    void onlyChoiceIsTheWayOut_data();
+    void onlyChoiceIsTheWayOut();
     void foreignCheckBoxMayGo();
     void tabVisitsEveryButton();
     void centresOnWhatIsVisible();
@@ -181,6 +184,36 @@ void tst_VantraMessageBox::informativeTextIsSmallerAndWide()
         // Nothing of an earlier layout is left behind at the corner.
         QVERIFY(box.childAt(1, 1) == nullptr);
         box.hide();
+    }
+}
+
+void tst_VantraMessageBox::visibleBoxMayChange()
+{
+    const std::vector<std::function<void(VantraMessageBox *)>> changes = {
+        [](VantraMessageBox *ioBox) { ioBox->setInformativeText(QString()); },
+        [](VantraMessageBox *ioBox) { ioBox->setInformativeText(text("Other")); },
+        [](VantraMessageBox *ioBox) { ioBox->setDetailedText(text("Details")); },
+        [](VantraMessageBox *ioBox) { ioBox->setIconPixmap(QPixmap(16, 16)); },
+        [](VantraMessageBox *ioBox) {
+            ioBox->setInformativeText(QString());
+            ioBox->setInformativeText(text("Again"));
+        },
+    };
+    for (const auto &change : changes) {
+        VantraMessageBox box(text("Title"), text("Text"), text("More. ").repeated(100), QMessageBox::Ok,
+                             mParent.get(), false);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        change(&box);
+        QCoreApplication::processEvents();
+        if (const auto *label = box.findChild<QLabel *>(text("qt_msgbox_informativelabel"))) {
+            QVERIFY(label->width() >= 350);
+            QTRY_VERIFY(box.rect().contains(QRect(label->mapTo(&box, QPoint()), label->size())));
+        }
+        const QAbstractButton *button = box.button(QMessageBox::Ok);
+        QTest::mouseClick(box.windowHandle(), Qt::LeftButton, {},
+                          button->mapTo(&box, button->rect().center()));
+        QVERIFY(!box.isVisible());
     }
 }
 
@@ -308,6 +341,40 @@ void tst_VantraMessageBox::checkBoxStaysAndTells()
         QVERIFY(box.isDontShowMeThisAgainChecked());
         QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.first().first().toInt(), static_cast<int>(Qt::Checked));
+    }
+}
+
+void tst_VantraMessageBox::onlyChoiceIsTheWayOut_data()
+{
+    QTest::addColumn<bool>("details");
+    QTest::addColumn<bool>("secondChoice");
+    QTest::newRow("one choice") << false << false;
+    QTest::newRow("one choice and details") << true << false;
+    QTest::newRow("two choices") << false << true;
+    QTest::newRow("two choices and details") << true << true;
+}
+
+void tst_VantraMessageBox::onlyChoiceIsTheWayOut()
+{
+    QFETCH(const bool, details);
+    QFETCH(const bool, secondChoice);
+    for (const bool byKey : {true, false}) {
+        VantraMessageBox box(text("Title"), text("Text"), QMessageBox::Ok, mParent.get(), true);
+        if (secondChoice) {
+            box.addButton(text("Replace"), QMessageBox::ActionRole);
+        }
+        if (details) {
+            box.setDetailedText(text("Details"));
+        }
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        if (byKey) {
+            QTest::keyClick(&box, Qt::Key_Escape);
+        } else {
+            box.windowHandle()->close();
+        }
+        QCOMPARE(box.isVisible(), secondChoice);
+        QCOMPARE(box.clickedButton(), secondChoice ? nullptr : box.button(QMessageBox::Ok));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "Theme/VantraFont.h"
 
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QSplitter>
 #include <QtWidgets/QStylePainter>
 
 #include <utility>
@@ -14,6 +15,21 @@ namespace {
 
 // What Qt gives a child that nobody has laid out yet.
 constexpr QSize kFirstSize(100, 30);
+
+/// While it exists, a parent that is a splitter doesn't notice new children. A splitter makes a pane of each
+/// child that it notices.
+class SplitterBlocker : public QObject
+{
+public:
+    explicit SplitterBlocker(QWidget *ioParent)
+    {
+        if (qobject_cast<QSplitter *>(ioParent) != nullptr) {
+            ioParent->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject *, QEvent *inEvent) override { return inEvent->type() == QEvent::ChildAdded; }
+};
 
 } // namespace
 
@@ -84,6 +100,7 @@ void VantraButton::setNotificationBadgeEnabled(bool inEnabled)
     }
     if (inEnabled) {
         Q_ASSERT(parentWidget() != nullptr);
+        const SplitterBlocker blocker(parentWidget());
         mNotificationBadge = new VantraLabel(parentWidget());
         mNotificationBadge->setLabelStyle(VantraLabel::NotificationStyle);
         connect(mNotificationBadge, &QObject::destroyed, this, &VantraButton::forgetNotificationBadge);
@@ -138,12 +155,29 @@ void VantraButton::updateNotificationBadgeVisibility()
     }
     QWidget *parent = parentWidget();
     if (parent != nullptr && mNotificationBadge->parentWidget() != parent) {
+        const SplitterBlocker blocker(parent);
         mNotificationBadge->setParent(parent);
     }
     // What the badge covers of the button is still the button's to click. Enabling a label undoes this.
     mNotificationBadge->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const bool wasHidden = mNotificationBadge->isHidden();
     // A button that became a window has left its badge behind.
     mNotificationBadge->setVisible(isVisible() && parent != nullptr && mNotificationBadgeCount > 0);
+    if (wasHidden && !mNotificationBadge->isHidden()) {
+        mNotificationBadge->raise();
+    }
+}
+
+void VantraButton::keepNotificationBadgeAbove()
+{
+    if (mNotificationBadge.isNull() || mNotificationBadge->parentWidget() != parentWidget()) {
+        return;
+    }
+    // A button that was lowered stays below what now covers it, and so does its badge.
+    const QObjectList &siblings = parentWidget()->children();
+    if (siblings.indexOf(this) > siblings.indexOf(mNotificationBadge.data())) {
+        mNotificationBadge->raise();
+    }
 }
 
 void VantraButton::moveNotificationBadge()
@@ -197,6 +231,14 @@ QSize VantraButton::sizeHint() const
     ensurePolished();
     initStyleOption(&option);
     return style()->sizeFromContents(QStyle::CT_PushButton, &option, QSize(0, 0), this);
+}
+
+bool VantraButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::ZOrderChange) {
+        keepNotificationBadgeAbove();
+    }
+    return VantraButtonBase::event(event);
 }
 
 void VantraButton::mousePressEvent(QMouseEvent *event)

@@ -61,8 +61,9 @@ public:
     // The badge, off by default. It is a child of the button's parent, so that it can overhang the button; a
     // button without a parent stops the process. It comes with count 0 and is destroyed when turned off, or
     // with that parent. A button that moves to another parent takes its badge along when it next shows or
-    // paints there; the badge of a deleted button stays with the parent, hidden. A change emits
-    // notificationBadgeEnabledChanged.
+    // paints there; the badge of a deleted button stays with the parent, hidden. The badge is raised above
+    // the button's siblings when it appears and when the button is raised. A splitter does not count it as a
+    // pane. A change emits notificationBadgeEnabledChanged.
     bool notificationBadgeEnabled() const;
     void setNotificationBadgeEnabled(bool inEnabled);
 
@@ -96,6 +97,7 @@ signals:
     void buttonDoubleClicked();
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -106,6 +108,7 @@ protected:
 private:
     void updateNotificationBadgeVisibility();
     void moveNotificationBadge();
+    void keepNotificationBadgeAbove();
     void forgetNotificationBadge();
     void describeNotificationBadge();
 

@@ -24,6 +24,14 @@ double bounded(double min, double value, double max)
     return qMax(min, qMin(max, value));
 }
 
+// The digits of some scripts take two UTF-16 units each.
+void chopCharacters(QString &ioText, int inCount)
+{
+    for (int count = 0; count < inCount && !ioText.isEmpty(); ++count) {
+        ioText.chop(ioText.back().isLowSurrogate() ? 2 : 1);
+    }
+}
+
 void trimEnd(QString &ioText, int inDecimals)
 {
     const QString decimalPoint = VTQtLocale().decimalPoint();
@@ -53,7 +61,10 @@ VantraDoubleLineEditBase::VantraDoubleLineEditBase(QWidget *inParent)
 
 VantraDoubleLineEditBase::~VantraDoubleLineEditBase()
 {
-    QCoreApplication::instance()->removeEventFilter(this);
+    // The application object may be gone before a field of static lifetime.
+    if (QCoreApplication *application = QCoreApplication::instance()) {
+        application->removeEventFilter(this);
+    }
 }
 
 double VantraDoubleLineEditBase::value() const
@@ -132,7 +143,7 @@ void VantraDoubleLineEditBase::setValue(double doubleValue)
     }
     const double clamped = bounded(minimum(), doubleValue, maximum());
     QString text = VTQtLocale().toString(clamped, decimals() > 0 ? 'f' : 'd', kWrittenDecimals);
-    text.chop(kWrittenDecimals - decimals());
+    chopCharacters(text, kWrittenDecimals - decimals());
     if (decimals() > 0) {
         trimEnd(text, decimals());
     }
@@ -173,7 +184,8 @@ void VantraDoubleLineEditBase::keyPressEvent(QKeyEvent *event)
 
 void VantraDoubleLineEditBase::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+    // X11 sends a release before each press of a held key.
+    if ((event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) && !event->isAutoRepeat()) {
         stopKeyPressElapsedTimer();
     }
     QLineEdit::keyReleaseEvent(event);
@@ -181,14 +193,21 @@ void VantraDoubleLineEditBase::keyReleaseEvent(QKeyEvent *event)
 
 void VantraDoubleLineEditBase::focusInEvent(QFocusEvent *event)
 {
+    const bool isBackFromOwnPopup = isFocusChangeForOwnPopup(event);
     VantraLineEditBase::focusInEvent(event);
-    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    if (!isBackFromOwnPopup) {
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    }
 }
 
 void VantraDoubleLineEditBase::focusOutEvent(QFocusEvent *event)
 {
     stopKeyPressElapsedTimer();
+    const bool isForOwnPopup = isFocusChangeForOwnPopup(event);
     VantraLineEditBase::focusOutEvent(event);
+    if (isForOwnPopup) {
+        return;
+    }
 
     QString text = this->text();
     if (isTextValid(text)) {

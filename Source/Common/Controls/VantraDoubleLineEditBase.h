@@ -9,7 +9,8 @@
 //
 // Numbers are shown and read in the locale of VTQtLocale; choose it before the field is made. The field
 // selects its text when it gets the focus. Return commits by giving the focus away. When the focus leaves, a
-// text that isn't a number of the range is replaced by the nearest one and reported by valueOutOfRange.
+// text that isn't a number of the range is replaced by the nearest one and reported by valueOutOfRange. The
+// field's own context menu doesn't commit anything.
 //
 // Up and Down step by the increment. After a key has been held for a second the steps count in tenths, and
 // grow until a quarter of the range, in tenths, is reached. Stepping by key needs a maximum of at least 4.0
@@ -54,7 +55,7 @@ public:
 
     // Start and stop the clock by which steps grow, for stepping by means of the application's own. Starting
     // a running clock does nothing. Release of the key, loss of the focus and deactivation of the application
-    // stop it too.
+    // stop it too. The releases of an auto-repeated key do not.
     void startKeyPressElapsedTimer();
     void stopKeyPressElapsedTimer();
 

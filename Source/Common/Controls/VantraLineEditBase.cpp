@@ -1,5 +1,6 @@
 #include "Controls/VantraLineEditBase.h"
 
+#include "Controls/VantraEditFocus_p.h"
 #include "Controls/VantraEditLook_p.h"
 #include "StyleOptions/VantraStyleOptionLineEdit.h"
 
@@ -58,7 +59,12 @@ bool VantraLineEditBase::event(QEvent *event)
 
 void VantraLineEditBase::focusInEvent(QFocusEvent *event)
 {
+    const bool isBackFromOwnPopup = isFocusChangeForOwnPopup(event);
+    mOwnPopupIsOpen = false;
     QLineEdit::focusInEvent(event);
+    if (isBackFromOwnPopup) {
+        return;
+    }
     setFontUnderlining(true);
     if (mSelectAllOnFocus) {
         // A mouse press that brings the focus has yet to place the cursor.
@@ -68,8 +74,11 @@ void VantraLineEditBase::focusInEvent(QFocusEvent *event)
 
 void VantraLineEditBase::focusOutEvent(QFocusEvent *event)
 {
+    mOwnPopupIsOpen = isFocusChangeForOwnPopup(event);
     QLineEdit::focusOutEvent(event);
-    setFontUnderlining(false);
+    if (!mOwnPopupIsOpen) {
+        setFontUnderlining(false);
+    }
 }
 
 void VantraLineEditBase::enterEvent(QEnterEvent *event)
@@ -108,6 +117,13 @@ void VantraLineEditBase::initStyleOption(QStyleOptionFrame *option) const
             option->state &= ~QStyle::State_MouseOver;
         }
     }
+}
+
+bool VantraLineEditBase::isFocusChangeForOwnPopup(const QFocusEvent *inEvent) const
+{
+    // The popup is closed when the focus comes back.
+    return inEvent->gotFocus() ? mOwnPopupIsOpen && inEvent->reason() == Qt::PopupFocusReason
+                               : VantraEditFocus::leavesForPopupOf(this, inEvent);
 }
 
 void VantraLineEditBase::setFontUnderlining(bool isUnderlined)

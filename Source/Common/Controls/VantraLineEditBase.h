@@ -7,9 +7,10 @@
 //     edit->setSelectAllOnFocus(true);
 //
 // The style draws the ground behind the text. The text takes the theme's colour as the pointer comes and
-// goes, and the font is underlined while the field has the focus. All fields ask for the same room, that of
-// "99999.9" in their font with nothing around it; the layout or the form makes them wider. Tab and Return go
-// to the field even where a shortcut bears their name; Enter doesn't. GUI thread only.
+// goes, and the font is underlined while the field has the focus. The field's own popups, such as its context
+// menu, leave focus, text and selection unchanged. All fields ask for the same room, that of "99999.9" in
+// their font with nothing around it; the layout or the form makes them wider. Tab and Return go to the field
+// even where a shortcut bears their name; Enter doesn't. GUI thread only.
 
 #include "VTWidgetsLiteExport.h"
 
@@ -58,9 +59,15 @@ protected:
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    // Leaves State_Sunken out: the panel that Qt itself draws under the text is then that of a bare field,
-    // which covers the field's own only while hovered.
+
+    // Clears State_Sunken and sets the theme's text color for the state. Also clears State_MouseOver while Qt
+    // draws its own panel over the field's. Qt's panel is then that of a field without border and without the
+    // pointer. The stock theme makes it transparent, so that the field's own panel stays visible.
     void initStyleOption(QStyleOptionFrame *option) const override;
+
+    // Returns true if the focus only moves to a popup whose parent is this field, or back from it. Call it in
+    // focusInEvent() and focusOutEvent() before the base class's implementation.
+    bool isFocusChangeForOwnPopup(const QFocusEvent *inEvent) const;
 
 private slots:
     void setFontUnderlining(bool isUnderlined);
@@ -71,4 +78,5 @@ private:
     bool mExcludeLocaleGroupSeparator = true;
     bool mSelectAllOnFocus = false;
     bool mPanelIsPainted = false; // and the base class is about to paint the text over it
+    bool mOwnPopupIsOpen = false; // since the last focusOutEvent
 };

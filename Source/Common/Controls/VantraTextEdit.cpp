@@ -1,5 +1,6 @@
 #include "Controls/VantraTextEdit.h"
 
+#include "Controls/VantraEditFocus_p.h"
 #include "Controls/VantraEditLook_p.h"
 #include "StyleOptions/VantraStyleOptionTextEdit.h"
 
@@ -52,7 +53,13 @@ void VantraTextEdit::keyPressEvent(QKeyEvent *event)
 
 void VantraTextEdit::focusInEvent(QFocusEvent *event)
 {
+    // The popup is closed when the focus comes back.
+    const bool isBackFromOwnPopup = mOwnPopupIsOpen && event->reason() == Qt::PopupFocusReason;
+    mOwnPopupIsOpen = false;
     QTextEdit::focusInEvent(event);
+    if (isBackFromOwnPopup) {
+        return;
+    }
     if (!isReadOnly()) {
         selectAll();
     }
@@ -61,6 +68,13 @@ void VantraTextEdit::focusInEvent(QFocusEvent *event)
 
 void VantraTextEdit::focusOutEvent(QFocusEvent *event)
 {
+    // The context menu is a child of the viewport when the user opens it.
+    mOwnPopupIsOpen = VantraEditFocus::leavesForPopupOf(this, event) ||
+                      VantraEditFocus::leavesForPopupOf(viewport(), event);
+    if (mOwnPopupIsOpen) {
+        QTextEdit::focusOutEvent(event);
+        return;
+    }
     if (!isReadOnly()) {
         moveCursor(QTextCursor::Start);
         if (tabChangesFocus() && event->reason() != Qt::ActiveWindowFocusReason &&

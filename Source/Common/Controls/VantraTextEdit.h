@@ -8,7 +8,8 @@
 //
 // Neither Return nor Enter adds a line; with setAcceptEnterKey they do together with Ctrl. Tab moves the
 // focus on. The whole text is selected when the focus comes, and the font is underlined while it stays. The
-// font is Qt's; give it one of VantraFont's. GUI thread only.
+// box's own popups, such as its context menu, leave focus, text and selection unchanged. The font is Qt's;
+// give it one of VantraFont's. GUI thread only.
 
 #include "VTWidgetsLiteExport.h"
 
@@ -60,4 +61,5 @@ private slots:
 private:
     bool mAcceptEnterKey = false;
     BorderStyle mBorderStyle = BorderNone;
+    bool mOwnPopupIsOpen = false; // since the last focusOutEvent
 };

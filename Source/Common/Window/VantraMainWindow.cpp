@@ -399,10 +399,12 @@ void VantraMainWindow::notifyAllMenusThatUseTheMetaModifierInShortcutsOnTheMac(i
     Q_ASSERT(VTQtSysInfo::isMacPlatform() && key == Qt::Key_Meta);
     Q_UNUSED(key);
     QList<QMenu *> notified;
-    // A copy, as slots may change what is registered.
+    // A copy, as slots may change what is registered. They may also delete what they have unregistered.
     const QMap<QKeySequence, QMenu *> entries = mKeySequenceWithMetaToMenuMap;
     for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
-        if (!notified.contains(entry.value())) {
+        const auto live = mKeySequenceWithMetaToMenuMap.constFind(entry.key());
+        const bool isLive = live != mKeySequenceWithMetaToMenuMap.constEnd() && *live == entry.value();
+        if (isLive && !notified.contains(entry.value())) {
             emitAboutToTriggerShortcut(entry.key(), entry.value());
             notified.append(entry.value());
         }

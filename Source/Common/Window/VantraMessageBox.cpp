@@ -28,6 +28,11 @@ constexpr int kInformativeTextWidth = 350; // at least, in logical pixels
 
 const Qt::WindowFlags kConstructionFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
 
+QLabel *informativeLabelOf(const QMessageBox &inBox)
+{
+    return inBox.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+}
+
 QDialogButtonBox *buttonBoxOf(const QMessageBox &inBox)
 {
     return inBox.findChild<QDialogButtonBox *>(QStringLiteral("qt_msgbox_buttonbox"));
@@ -161,14 +166,31 @@ void VantraMessageBox::makeTextBold()
 void VantraMessageBox::setInformativeText(const QString &inText)
 {
     QMessageBox::setInformativeText(inText);
+    if (inText.isEmpty()) {
+        removeInformativeArea();
+    }
     wrapInformativeText();
 }
 
-// Qt lays the dialog out anew for a new picture or detailed text, and then takes its label out of our area,
-// so this is asked for again when the dialog shows.
+// The label and its area are deleted later, since a link in the label may have led here. Without its name
+// nobody takes the label for the next one.
+void VantraMessageBox::removeInformativeArea()
+{
+    if (QLabel *label = informativeLabelOf(*this)) {
+        label->setObjectName(QString());
+    }
+    if (mInformativeArea != nullptr) {
+        mInformativeArea->hide();
+        mInformativeArea->deleteLater();
+        mInformativeArea.clear();
+    }
+}
+
+// QMessageBox takes its label out of the area whenever it makes a new layout, as it does for another icon or
+// detailed text. This is therefore repeated then and when the dialog shows.
 void VantraMessageBox::wrapInformativeText()
 {
-    auto *label = findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    QLabel *label = informativeLabelOf(*this);
     if (mInformativeArea != nullptr && (label == nullptr || label->parentWidget() != mInformativeArea)) {
         delete mInformativeArea;
     }
@@ -184,9 +206,24 @@ void VantraMessageBox::wrapInformativeText()
     mInformativeArea->setFont(areaFont);
     delete layout()->replaceWidget(label, mInformativeArea, Qt::FindChildrenRecursively);
     areaLayout->addWidget(label);
-    // What comes in while the dialog shows isn't shown along with it.
-    mInformativeArea->setVisible(true);
-    label->setVisible(true);
+    mInformativeArea->installEventFilter(this);
+    if (isVisible()) {
+        mInformativeArea->show();
+        label->show();
+        // QMessageBox has chosen its size without the area.
+        QEvent layoutRequest(QEvent::LayoutRequest);
+        QCoreApplication::sendEvent(this, &layoutRequest);
+    }
+}
+
+bool VantraMessageBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == mInformativeArea && event->type() == QEvent::ChildRemoved) {
+        // The empty area would cover the buttons. The new layout is still incomplete.
+        mInformativeArea->hide();
+        QMetaObject::invokeMethod(this, &VantraMessageBox::wrapInformativeText, Qt::QueuedConnection);
+    }
+    return QMessageBox::eventFilter(watched, event);
 }
 
 bool VantraMessageBox::isDontShowMeThisAgainChecked() const
@@ -317,15 +354,26 @@ void VantraMessageBox::done(int inResult)
 }
 
 // A check box in the row isn't a choice, though QMessageBox counts it as one and then finds that Escape is
-// ambiguous.
+// ambiguous. Without a check box QMessageBox finds the only choice itself.
 void VantraMessageBox::offerOnlyButtonToEscape()
 {
     QList<QAbstractButton *> choices = buttons();
-    choices.removeIf(
+    const auto checkBoxes = choices.removeIf(
         [](const QAbstractButton *inButton) { return qobject_cast<const QCheckBox *>(inButton) != nullptr; });
-    if (escapeButton() == nullptr && choices.count() == 1 && choices.count() != buttons().count()) {
+    if (!detailedText().isEmpty() && choices.count() == 2) {
+        choices.removeIf([this](QAbstractButton *inButton) { return mayBeDetailsButton(inButton); });
+    }
+    if (escapeButton() == nullptr && checkBoxes > 0 && choices.count() == 1) {
         setEscapeButton(choices.first());
     }
+}
+
+// True for the button that QMessageBox adds for a detailed text, since QMessageBox gives no access to it.
+// Also true for an action button that the application added by a function of QMessageBox.
+bool VantraMessageBox::mayBeDetailsButton(QAbstractButton *inButton) const
+{
+    return standardButton(inButton) == QMessageBox::NoButton &&
+           buttonRole(inButton) == QMessageBox::ActionRole && !mButtonClosesDialogMap.contains(inButton);
 }
 
 // Once a button has been clicked, QMessageBox no longer takes its own closing for a click on the escape

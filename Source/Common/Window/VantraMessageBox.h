@@ -101,6 +101,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     static const QFlags<Qt::WindowType> kDefaultWindowFlags;
@@ -110,8 +111,10 @@ private:
     void initIcon();
     void makeTextBold();
     void insertDontShowMeAgainCheckbox();
+    void removeInformativeArea();
     void wrapInformativeText();
     void offerOnlyButtonToEscape();
+    bool mayBeDetailsButton(QAbstractButton *inButton) const;
     void enterButton(QAbstractButton *inButton, bool inCloseDialog);
     void clickWithoutClosing(QAbstractButton *inButton);
 
