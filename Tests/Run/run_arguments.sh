@@ -30,11 +30,16 @@ refuses '"nonsense"' nonsense
 refuses '"nonsense"' test nonsense
 refuses '"--chekc"' format --chekc
 refuses '"--tyr"' package --tyr
+refuses '"--pgaes"' test-windows --pgaes
+refuses '"slink"' bare slink ./run test
+refuses 'a command' bare sid
+refuses 'a folder' install
 refuses '"--opne"' docs --opne
 refuses '"soon"' fuzz soon
 
 "$run" help >"$work/help" || fail "run help failed"
-for command in gallery photodesk test bench check-windows package docs pictures format fuzz; do
+for command in gallery photodesk test install bench check-windows check-mac test-windows bare matrix package docs \
+    pictures format fuzz; do
     grep -q "^\./run $command" "$work/help" || fail "run help does not name $command"
 done
 

@@ -1,5 +1,7 @@
 #include "Progress/VantraProgressBaseDlg.h"
 
+#include "Utilities/VTWidgetUtils.h"
+
 const Qt::WindowFlags VantraProgressBaseDlg::DEFAULT_WINDOW_FLAGS =
     Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint;
 const Qt::WindowFlags VantraProgressBaseDlg::NO_TITLE_BAR_BUTTONS_WINDOW_FLAGS =
@@ -10,6 +12,7 @@ VantraProgressBaseDlg::VantraProgressBaseDlg(QWidget *inParent, Qt::WindowFlags 
 {
     const QWidget *parent = inParent;
     Q_ASSERT(parent != NULL && "parent should not be NULL, see bug #13294");
+    VTWidgetsMatchFrameToTheme(this);
 }
 
 VantraProgressBaseDlg::~VantraProgressBaseDlg() = default;

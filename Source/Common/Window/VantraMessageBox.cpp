@@ -135,6 +135,7 @@ void VantraMessageBox::init(const QString &inInformativeText, QMessageBox::Stand
     Q_UNUSED(parent);
     setWindowModality(Qt::ApplicationModal);
     setWindowFlags(kDefaultWindowFlags);
+    VTWidgetsMatchFrameToTheme(this);
     initIcon();
     setFont(VantraFont::fontPlus());
     makeTextBold();
@@ -353,6 +354,17 @@ void VantraMessageBox::done(int inResult)
     QDialog::done(inResult);
 }
 
+// QMessageBox looks for its escape button here or, up to Qt 6.4, when the window shows. Newer Qt also decides
+// here whether a dialog of the system serves, which only a polished subclass declines.
+void VantraMessageBox::setVisible(bool visible)
+{
+    if (visible) {
+        ensurePolished();
+        offerOnlyButtonToEscape();
+    }
+    QMessageBox::setVisible(visible);
+}
+
 // A check box in the row isn't a choice, though QMessageBox counts it as one and then finds that Escape is
 // ambiguous. Without a check box QMessageBox finds the only choice itself.
 void VantraMessageBox::offerOnlyButtonToEscape()
@@ -390,7 +402,6 @@ void VantraMessageBox::closeEvent(QCloseEvent *event)
 void VantraMessageBox::showEvent(QShowEvent *event)
 {
     wrapInformativeText();
-    offerOnlyButtonToEscape();
     QMessageBox::showEvent(event);
     const QWidget *parent = parentWidget();
     const QPoint centre = parent != nullptr && parent->isVisible()

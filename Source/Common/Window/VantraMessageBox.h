@@ -62,7 +62,9 @@ public:
     virtual QPushButton *addButton(QMessageBox::StandardButton inButton, const QObject *inReceiver,
                                    const char *inMember, bool inCloseDialog);
 
-    // The dialog takes the button over. A null button and an invalid role stop the process.
+    // Takes ownership of the button, which has a text. A null button and an invalid role stop the process.
+    // For the result of such a button ask clickedButton(); the number that exec() returns differs between
+    // versions of Qt.
     virtual void addButton(QAbstractButton *inButton, QMessageBox::ButtonRole inRole,
                            const QObject *inReceiver, const char *inMember, bool inCloseDialog);
 
@@ -89,6 +91,7 @@ public:
                                                 QMessageBox::StandardButton inDefaultButton);
 
     void done(int inResult) override;
+    void setVisible(bool visible) override;
 
 signals:
     // The user has ticked or cleared the check box; a Qt::CheckState.
