@@ -129,6 +129,7 @@ private slots:
     void busyBar();
     void cancelReachesTheWorker_data();
     void cancelReachesTheWorker();
+    void cancelButtonIsHiddenInTheRun();
     void workOnTheGuiThread_data();
     void workOnTheGuiThread();
     void fakeModalSwallowsInput();
@@ -457,6 +458,24 @@ void tst_VantraProgressMgr::cancelReachesTheWorker()
     QCOMPARE(mManager->keyUsedToCancel(), qMax(0, key));
     runOnThread(mManager, mWindow, [](__VTProgress *) {});
     QCOMPARE(mManager->keyUsedToCancel(), 0);
+}
+
+void tst_VantraProgressMgr::cancelButtonIsHiddenInTheRun()
+{
+    bool blocks = false;
+    QTimer::singleShot(50, mWindow, [&] { mManager->setCancelVisible(false); });
+    QTimer::singleShot(150, mWindow, [&] {
+        const auto *dialog = qobject_cast<VantraProgress *>(QApplication::activeModalWidget());
+        blocks = dialog != nullptr && dialog->isVisible() && dialog->windowOpacity() == 0.0;
+        mManager->setCancelVisible(true);
+    });
+    QTimer::singleShot(250, mWindow, [&] { dialogOf(mWindow)->close(); });
+    int result = 0;
+    const int code = runOnThread(mManager, mWindow,
+                                 [&](__VTProgress *ioProgress) { result = workUntilCanceled(ioProgress); });
+    QVERIFY(blocks);
+    QCOMPARE(result, 1007);
+    QCOMPARE(code, int(QDialog::Accepted));
 }
 
 void tst_VantraProgressMgr::workOnTheGuiThread_data()

@@ -133,7 +133,7 @@ public:
     // nothing without a dialog.
     void setCancelEnabled(bool inEnabled);
 
-    // Shows or hides the Cancel button. Stops the process without a dialog that has one.
+    // Shows or hides the Cancel button, also during a run. Stops the process without a dialog that has one.
     void setCancelVisible(bool inVisible);
 
     // Whether the operation has been canceled, as far as the manager knows: it asks the dialog at every
