@@ -8,6 +8,7 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 
+#include <atomic>
 #include <optional>
 
 using namespace ProgressOperations;
@@ -119,6 +120,7 @@ private slots:
     void onePairTooManyDoesNoHarm();
     void operationLine_data();
     void operationLine();
+    void titleChangesWhileAThreadReports();
     void stageSetsTheBar();
     void throttle_data();
     void throttle();
@@ -270,6 +272,33 @@ void tst_VantraProgressMgr::operationLine()
     QCOMPARE(dialogOf(mWindow)->findChild<QLabel *>(QStringLiteral("labelStage"))->text(),
              QStringLiteral("Größer"));
     mManager->endProgress();
+}
+
+// The GUI thread sets a title for each message while the worker goes on to read them.
+void tst_VantraProgressMgr::titleChangesWhileAThreadReports()
+{
+    int title = 1;
+    mManager->setTitle(QString::number(title));
+    QObject context;
+    std::atomic<int> latest{0};
+    bool sorted = true;
+    connect(
+        mManager, &VantraProgressMgr::progressUpdate, &context,
+        [&](const VantraProgressMsg &inMsg) {
+            const int next = inMsg.title().toInt();
+            sorted = sorted && next >= qMax(1, latest.load());
+            latest = next;
+        },
+        Qt::DirectConnection);
+    connect(mManager, &VantraProgressMgr::progressUpdate, &context,
+            [&] { mManager->setTitle(QString::number(++title)); });
+    runOnThread(mManager, mWindow, [&](__VTProgress *ioProgress) {
+        for (int i = 0; latest < 300 && sorted; ++i) {
+            VTProgressDoProgressBeginStage(ioProgress, i, nullptr, 1);
+        }
+    });
+    mManager->setTitle(QString());
+    QVERIFY(sorted);
 }
 
 void tst_VantraProgressMgr::stageSetsTheBar()

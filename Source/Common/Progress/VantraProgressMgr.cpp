@@ -41,30 +41,14 @@ public:
         --sOwnVisits;
     }
 
+    static bool othersAreHere() { return sVisitors.load() > sOwnVisits; }
+
     static void waitForOthers()
     {
-        while (sVisitors.load() > sOwnVisits) {
+        while (othersAreHere()) {
             QThread::yieldCurrentThread();
         }
     }
-};
-
-// Held while a text is copied or exchanged, a handful of instructions.
-class BriefHold
-{
-public:
-    explicit BriefHold(std::atomic<bool> &ioInUse) : mInUse(ioInUse)
-    {
-        while (mInUse.exchange(true, std::memory_order_acquire)) {
-            QThread::yieldCurrentThread();
-        }
-    }
-    BriefHold(const BriefHold &) = delete;
-    BriefHold &operator=(const BriefHold &) = delete;
-    ~BriefHold() { mInUse.store(false, std::memory_order_release); }
-
-private:
-    std::atomic<bool> &mInUse;
 };
 
 // Everybody who takes the manager's lock runs on the GUI thread. Who finds it taken was called by a slot that
@@ -111,6 +95,7 @@ VantraProgressMgr::VantraProgressMgr(QObject *inParent) : QObject(inParent)
     qRegisterMetaType<VantraProgressMsg>("VantraProgressMsg");
     qRegisterMetaType<VantraProgressToken>("VantraProgressToken");
     mLastUpdateTimer.start();
+    setTitle(QString());
     mLogParams.mPrefix = &defaultPrefix;
     mLogParams.mFilter = &defaultFilter;
 }
@@ -431,15 +416,18 @@ __VTProgress *VantraProgressMgr::progress() const
 
 QString VantraProgressMgr::title() const
 {
-    const BriefHold hold(mTitleInUse);
-    return mTitle;
+    const Visit visit; // so that setTitle keeps the text
+    return *mTitle.load();
 }
 
 void VantraProgressMgr::setTitle(const QString &inTitle)
 {
-    QString title = inTitle;
-    const BriefHold hold(mTitleInUse);
-    mTitle.swap(title);
+    mTitles.push_back(std::make_unique<const QString>(inTitle));
+    mTitle = mTitles.back().get();
+    // Another thread may be copying an earlier title.
+    if (!Visit::othersAreHere()) {
+        mTitles.erase(mTitles.begin(), mTitles.end() - 1);
+    }
 }
 
 void VantraProgressMgr::setCancelEnabled(bool inEnabled)

@@ -21,7 +21,7 @@
 //
 // Threads: the progress object, endProgress() and canceled() are for all of them, and so are beginStage,
 // updateStage, updateStageAndName and endStage while the operation lasts. Everything else belongs to the GUI
-// thread. A worker never waits for the GUI thread.
+// thread. The manager has one lock. Only the GUI thread takes it, so a worker never waits for the GUI thread.
 //
 // Nesting: an operation within an operation shares the outer one's dialog. Each beginProgress asks for one
 // endProgress; further ones do no harm. Don't begin, run or end an operation in a slot that answers the
@@ -56,6 +56,7 @@
 
 #include <atomic>
 #include <memory>
+#include <vector>
 
 class VantraProgressBaseDlg;
 
@@ -218,8 +219,8 @@ private:
     std::atomic<qint64> mLastUpdateTime{0}; // in ms by that timer
     std::atomic<int> mMinUpdateInterval{500};
     int mDelayBeforeShowDialog = 2000;
-    QString mTitle;
-    mutable std::atomic<bool> mTitleInUse{false};
+    std::atomic<const QString *> mTitle{nullptr};        // the last of the titles
+    std::vector<std::unique_ptr<const QString>> mTitles; // earlier ones while other threads may copy them
     bool mDeleteDialogAtEnd = false;
     QPointer<QWidget> mWidgetToReactivate;
     bool mDialogShown = false;
