@@ -42,6 +42,7 @@ private slots:
     void applicationQuitsInTheRun();
     void managerGoesInTheRun_data();
     void managerGoesInTheRun();
+    void nextOperationBegunAsTheRunEnds();
 
 private:
     std::optional<Watchdog> mWatchdog;
@@ -235,6 +236,21 @@ void tst_VantraProgressMgrEnds::managerGoesInTheRun()
     VTProgressRelease(progress);
     OpenManager::exchangeInstance(former);
     VantraMainWindow::setActiveWindow(mWindow);
+}
+
+void tst_VantraProgressMgrEnds::nextOperationBegunAsTheRunEnds()
+{
+    mManager->beginProgress(mWindow, VantraProgressTypeDefault);
+    // Both are in the queue before the run, so the slot comes before the run returns.
+    emit mManager->endProgressSignal(0);
+    QMetaObject::invokeMethod(
+        mWindow, [this] { mManager->beginProgress(mWindow, VantraProgressTypeDefault); },
+        Qt::QueuedConnection);
+    mManager->runProgress();
+    QVERIFY(mManager->progressRunning());
+    dialogOf(mWindow)->setCanceled(true);
+    QCOMPARE(mManager->updateStage(0), 1007);
+    mManager->endProgress();
 }
 
 FATAL_TEST_MAIN(tst_VantraProgressMgrEnds)

@@ -234,6 +234,8 @@ int VantraProgressMgr::runProgress(int inToken)
         mTimer.start(mDelayBeforeShowDialog);
         mProgressDlg->setModal(true);
     }
+    // A slot may begin the next operation, with its own connection, before this run returns.
+    const QMetaObject::Connection cancelConnection = mCancelConnection;
     // Without dialog and delay the locker below ends a caller's error that would hang otherwise.
     if (delayed || mProgressDlg) {
         mExecState = kExecRunning;
@@ -246,8 +248,8 @@ int VantraProgressMgr::runProgress(int inToken)
             return 0;
         }
     }
-    if (mCancelConnection) {
-        disconnect(mCancelConnection);
+    if (cancelConnection) {
+        disconnect(cancelConnection);
     }
     locker.relock();
     mExecState = 0;
