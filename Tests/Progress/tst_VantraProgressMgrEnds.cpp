@@ -23,6 +23,14 @@ FATAL_CASE(otherProgram)
     std::getchar();
 }
 
+FATAL_CASE(endAfterTheApplication)
+{
+    new VantraMainWindow;
+    VantraProgressMgr *manager = VantraProgressMgr::sharedInstance();
+    static_cast<QApplication *>(QCoreApplication::instance())->~QApplication();
+    std::thread([manager] { manager->endProgress(); }).join();
+}
+
 // How operations end: the window that comes to the front, and what ends early.
 class tst_VantraProgressMgrEnds : public QObject
 {
@@ -42,7 +50,10 @@ private slots:
     void applicationQuitsInTheRun();
     void managerGoesInTheRun_data();
     void managerGoesInTheRun();
+    void slotOnTheEndDeletes_data();
+    void slotOnTheEndDeletes();
     void nextOperationBegunAsTheRunEnds();
+    void workerEndsAfterTheApplication();
 
 private:
     std::optional<Watchdog> mWatchdog;
@@ -238,6 +249,52 @@ void tst_VantraProgressMgrEnds::managerGoesInTheRun()
     VantraMainWindow::setActiveWindow(mWindow);
 }
 
+void tst_VantraProgressMgrEnds::slotOnTheEndDeletes_data()
+{
+    QTest::addColumn<bool>("deletesWindow");
+    QTest::addColumn<bool>("ownParent");
+    QTest::addColumn<bool>("onGuiThread");
+    for (const bool onGuiThread : {false, true}) {
+        const char *thread = onGuiThread ? "GUI thread" : "worker";
+        QTest::addRow("window, %s", thread) << true << false << onGuiThread;
+        QTest::addRow("window, dialog stays, %s", thread) << true << true << onGuiThread;
+        QTest::addRow("parent of the dialog, %s", thread) << false << true << onGuiThread;
+    }
+}
+
+// The window takes the manager with it.
+void tst_VantraProgressMgrEnds::slotOnTheEndDeletes()
+{
+    QFETCH(const bool, deletesWindow);
+    QFETCH(const bool, ownParent);
+    QFETCH(const bool, onGuiThread);
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("mutex|null receiver")));
+    VantraProgressMgr *former = OpenManager::exchangeInstance(nullptr);
+    auto *window = new VantraMainWindow;
+    VantraMainWindow::setActiveWindow(window);
+    const QPointer<VantraProgressMgr> manager(VantraProgressMgr::sharedInstance());
+    auto *parent = new QWidget;
+    manager->beginProgress(ownParent ? parent : window, VantraProgressTypeDefault);
+    const QPointer<VantraProgress> dialog(dialogOf(ownParent ? parent : window));
+    int ends = 0;
+    connect(dialog, &QDialog::finished, mWindow, [&] {
+        ++ends;
+        delete (deletesWindow ? window : parent);
+    });
+    if (onGuiThread) {
+        manager->endProgress();
+    } else {
+        emit manager->endProgressSignal(0);
+        manager->runProgress();
+    }
+    QCOMPARE(ends, 1);
+    QCOMPARE(manager.isNull(), deletesWindow);
+    QTRY_VERIFY(dialog.isNull());
+    delete (deletesWindow ? parent : window);
+    OpenManager::exchangeInstance(former);
+    VantraMainWindow::setActiveWindow(mWindow);
+}
+
 void tst_VantraProgressMgrEnds::nextOperationBegunAsTheRunEnds()
 {
     mManager->beginProgress(mWindow, VantraProgressTypeDefault);
@@ -251,6 +308,12 @@ void tst_VantraProgressMgrEnds::nextOperationBegunAsTheRunEnds()
     dialogOf(mWindow)->setCanceled(true);
     QCOMPARE(mManager->updateStage(0), 1007);
     mManager->endProgress();
+}
+
+void tst_VantraProgressMgrEnds::workerEndsAfterTheApplication()
+{
+    const FatalTest::Outcome outcome = FatalTest::run("endAfterTheApplication");
+    QVERIFY2(!outcome.aborted, qPrintable(outcome.output));
 }
 
 FATAL_TEST_MAIN(tst_VantraProgressMgrEnds)

@@ -13,6 +13,8 @@
 #include <QtCore/QThread>
 #include <QtGui/QKeyEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr int kDefaultDelay = 2000;     // ms
@@ -59,6 +61,15 @@ QMutex *notTakenAbove(QMutex *ioMutex)
     Q_ASSERT(!takenAbove && "An operation may not begin, run or end while another one is ending.");
     ioMutex->unlock();
     return ioMutex;
+}
+
+// A slot on the end of the dialog may delete the dialog.
+void closeDialog(const QPointer<VantraProgressBaseDlg> &inDialog, bool inDelete)
+{
+    inDialog->accept();
+    if (inDialog && inDelete) {
+        inDialog->deleteLater();
+    }
 }
 
 QString defaultPrefix(const VTQtLog::LogParams &inParams)
@@ -109,10 +120,9 @@ VantraProgressMgr::~VantraProgressMgr()
         VTProgressSetCB(progress, &VantraProgressMgr::progressCB, nullptr);
     }
     Visit::waitForOthers();
+    disconnect(mCancelConnection);
     if (mProgressDlg) {
-        disconnect(mCancelConnection);
-        mProgressDlg->accept();
-        mProgressDlg->deleteLater();
+        closeDialog(std::exchange(mProgressDlg, nullptr), true);
     }
 }
 
@@ -144,7 +154,7 @@ int VantraProgressMgr::beginProgress(QWidget *inParent, VantraProgressType inTyp
 
 int VantraProgressMgr::beginProgress(QWidget *inParent, int &outToken, VantraProgressType inType)
 {
-    const QMutexLocker locker(notTakenAbove(&mMutex));
+    const QMutexLocker locker(notTakenAbove(mMutex.get()));
     outToken = 0;
     if (++mProgressCount > 1) {
         return 0;
@@ -216,7 +226,7 @@ int VantraProgressMgr::runProgress()
 
 int VantraProgressMgr::runProgress(int inToken)
 {
-    QMutexLocker locker(notTakenAbove(&mMutex));
+    QMutexLocker locker(notTakenAbove(mMutex.get()));
     if (mProgressCount > 1) {
         return 0;
     }
@@ -282,7 +292,8 @@ void VantraProgressMgr::endProgress()
 
 void VantraProgressMgr::endProgress(int inToken)
 {
-    if (QThread::currentThread() != QCoreApplication::instance()->thread()) {
+    // The manager lives on the application's thread, also after the application object is gone.
+    if (QThread::currentThread() != thread()) {
         emit endProgressSignal(inToken);
     } else {
         endProgressNow();
@@ -307,7 +318,10 @@ void VantraProgressMgr::endProgressOf(__VTProgress *inProgress, int inToken)
 
 void VantraProgressMgr::endProgressSlot(VantraProgressToken)
 {
-    const QMutexLocker locker(notTakenAbove(&mMutex));
+    // A slot on the end of the dialog may delete this manager, but the locked mutex has to outlive it.
+    const QPointer<VantraProgressMgr> self(this);
+    const std::shared_ptr<QMutex> mutex = mMutex;
+    const QMutexLocker locker(notTakenAbove(mutex.get()));
     if (--mProgressCount > 0) {
         return;
     }
@@ -317,13 +331,13 @@ void VantraProgressMgr::endProgressSlot(VantraProgressToken)
     }
     if (mProgressDlg) {
         detachFromParentWindow();
-        mProgressDlg->accept();
-        mKeyUsedToCancel = keyOfDialog();
-        if (mDeleteDialogAtEnd) {
-            mProgressDlg->deleteLater();
-            mDeleteDialogAtEnd = false;
+        const int key = keyOfDialog();
+        const bool deletesDialog = std::exchange(mDeleteDialogAtEnd, false);
+        closeDialog(std::exchange(mProgressDlg, nullptr), deletesDialog);
+        if (self.isNull()) {
+            return;
         }
-        mProgressDlg = nullptr;
+        mKeyUsedToCancel = key;
     }
     mVTProgressRef = nullptr;
     mVTProgressOwner.reset();
@@ -334,7 +348,7 @@ void VantraProgressMgr::endProgressSlot(VantraProgressToken)
 void VantraProgressMgr::endProgressNow()
 {
     {
-        const QMutexLocker locker(notTakenAbove(&mMutex));
+        const QMutexLocker locker(notTakenAbove(mMutex.get()));
         if (--mProgressCount == 0) {
             mPreviousProgressDlg = mProgressDlg;
             mProgressDlg = nullptr;
@@ -365,9 +379,11 @@ void VantraProgressMgr::cleanupPreviousProgressDialog()
         // The dialog of the operation that has just ended is no longer the current one, so the key that
         // canceled it is not found here.
         checkForCancelData();
-        mPreviousProgressDlg->accept();
-        mPreviousProgressDlg->deleteLater();
-        mPreviousProgressDlg = nullptr;
+        const QPointer<VantraProgressMgr> self(this);
+        closeDialog(std::exchange(mPreviousProgressDlg, nullptr), true);
+        if (self.isNull()) {
+            return;
+        }
     }
     mPreviousVTProgressRef.reset();
     reactivate(mPreviousWidgetToReactivate);
@@ -375,7 +391,8 @@ void VantraProgressMgr::cleanupPreviousProgressDialog()
 
 void VantraProgressMgr::cleanupPreviousProgressDialogSlot()
 {
-    const QMutexLocker locker(notTakenAbove(&mMutex));
+    const std::shared_ptr<QMutex> mutex = mMutex; // outlives a manager that a slot deletes
+    const QMutexLocker locker(notTakenAbove(mutex.get()));
     cleanupPreviousProgressDialog();
 }
 
@@ -395,9 +412,10 @@ void VantraProgressMgr::checkForCancelData()
 
 void VantraProgressMgr::reactivate(QPointer<QWidget> &ioWidget)
 {
+    // Before the activation, because a slot that answers it may delete this manager.
     QWidget *widget = ioWidget;
+    ioWidget = nullptr;
     reactivateMainWindow(widget);
-    ioWidget = widget;
 }
 
 void VantraProgressMgr::reactivateMainWindow(QWidget *&ioWidget)

@@ -24,9 +24,11 @@
 // thread. The manager has one lock. Only the GUI thread takes it, so a worker never waits for the GUI thread.
 //
 // Nesting: an operation within an operation shares the outer one's dialog. Each beginProgress asks for one
-// endProgress; further ones do no harm. Don't begin, run or end an operation in a slot that answers the
-// closing of the dialog or the window's return to the front: the manager is at work then, and such a call
-// stops the process. A queued slot may.
+// endProgress; further ones do no harm.
+//
+// Don't begin, run or end an operation in a slot that answers the closing of the dialog or the window's
+// return to the front: the manager is at work then, and such a call stops the process. A queued slot may. A
+// slot on the dialog's finished() may delete the dialog's parent or the window that owns the manager.
 //
 // What ends early:
 // - Parent deleted: the dialog ends with it, and runProgress returns 0. The operation goes on unseen until
@@ -35,7 +37,8 @@
 //   alone; dialog and operation stay.
 // - Application quitting: quit() asks the dialog to close, as its title bar does, so that it cancels if the
 //   button is enabled, and is refused. exit() ends the run, which returns 0; the operation goes on, worker
-//   and caller still end it, and who waits for the worker waits for its whole work.
+//   and caller still end it, and who waits for the worker waits for its whole work. An endProgress() of a
+//   worker that comes after the application object is gone has no effect.
 // - Window that owns the manager deleted: the manager goes with it, and nobody may use it any more. The
 //   dialog ends, runProgress returns 0, and the algorithm's next progress call is answered with 1007. An
 //   algorithm on another thread that goes on with its progress object has to hold a reference of its own.
@@ -242,7 +245,7 @@ private:
     QPointer<VantraProgressBaseDlg> mPreviousProgressDlg;
     std::shared_ptr<__VTProgress> mPreviousVTProgressRef;
     QPointer<QWidget> mPreviousWidgetToReactivate;
-    QMutex mMutex;
+    std::shared_ptr<QMutex> mMutex = std::make_shared<QMutex>();
     int mRunCount = 0;
     VTQtLog::LogParams mLogParams;
     bool mGoing = false;
