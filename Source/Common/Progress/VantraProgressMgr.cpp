@@ -316,13 +316,37 @@ void VantraProgressMgr::endProgressOf(__VTProgress *inProgress, int inToken)
     }
 }
 
-void VantraProgressMgr::endProgressSlot(VantraProgressToken)
+void VantraProgressMgr::beginCommand(const __VTProgress *inProgress, VantraProgressToken inToken)
+{
+    // A nested command has no token, and the end of its thread always counts.
+    if (inToken != 0) {
+        mThreadEnds.insert(inToken, inProgress);
+    }
+}
+
+void VantraProgressMgr::endCommand(const __VTProgress *inProgress, VantraProgressToken inToken)
+{
+    // This end replaces that of the command's thread, which may still be in the queue.
+    if (const auto end = mThreadEnds.find(inToken); end != mThreadEnds.end()) {
+        *end = nullptr;
+    }
+    // A slot may have begun the next operation already.
+    const __VTProgress *current = mVTProgressRef;
+    if (current == nullptr || current == inProgress) {
+        endProgress(inToken);
+    }
+}
+
+void VantraProgressMgr::endProgressSlot(VantraProgressToken inToken)
 {
     // A slot on the end of the dialog may delete this manager, but the locked mutex has to outlive it.
     const QPointer<VantraProgressMgr> self(this);
     const std::shared_ptr<QMutex> mutex = mMutex;
     const QMutexLocker locker(notTakenAbove(mutex.get()));
-    if (--mProgressCount > 0) {
+    const __VTProgress *current = mVTProgressRef;
+    const bool isLate = mThreadEnds.value(inToken, current) != current;
+    mThreadEnds.remove(inToken);
+    if (isLate || --mProgressCount > 0) {
         return;
     }
     if (mProgressCount < 0) {

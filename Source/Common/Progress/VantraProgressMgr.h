@@ -23,8 +23,9 @@
 // updateStage, updateStageAndName and endStage while the operation lasts. Everything else belongs to the GUI
 // thread. The manager has one lock. Only the GUI thread takes it, so a worker never waits for the GUI thread.
 //
-// Nesting: an operation within an operation shares the outer one's dialog. Each beginProgress asks for one
-// endProgress; further ones do no harm.
+// Nesting: an operation within an operation shares the outer one's dialog. Each beginProgress needs one
+// endProgress. A further one has no effect between two operations, but during the next operation it ends
+// that one. VTThreadedProgressCmd ends only its own operation.
 //
 // Don't begin, run or end an operation in a slot that answers the closing of the dialog or the window's
 // return to the front: the manager is at work then, and such a call stops the process. A queued slot may. A
@@ -50,6 +51,7 @@
 #include "VTWidgetsLiteExport.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QMutex>
 #include <QtCore/QObject>
@@ -204,6 +206,8 @@ private:
     static constexpr int kCanceledResult = 1007;
 
     static void endProgressOf(__VTProgress *inProgress, int inToken);
+    void beginCommand(const __VTProgress *inProgress, VantraProgressToken inToken);
+    void endCommand(const __VTProgress *inProgress, VantraProgressToken inToken);
     void connectSignals();
     bool passesThrottle();
     void makeDialog(QWidget *inParent);
@@ -246,6 +250,9 @@ private:
     std::shared_ptr<__VTProgress> mPreviousVTProgressRef;
     QPointer<QWidget> mPreviousWidgetToReactivate;
     std::shared_ptr<QMutex> mMutex = std::make_shared<QMutex>();
+    // The operations of the threaded commands whose thread has not yet ended, by token. Null for an operation
+    // that the GUI thread has ended.
+    QHash<VantraProgressToken, const __VTProgress *> mThreadEnds;
     int mRunCount = 0;
     VTQtLog::LogParams mLogParams;
     bool mGoing = false;
