@@ -56,6 +56,9 @@ private slots:
     void runsOneAfterAnother();
     void nestedEndsTheOuterOneLevelEarly();
     void worksOnWhenTheRunEnds();
+    void nextRunIsLiveAfterAnEarlyEnd_data();
+    void nextRunIsLiveAfterAnEarlyEnd();
+    void endsItsOwnOperationAlone();
     void managerGoesInTheRun();
     void leavingTheThreadEndsTheProgress();
     void throwingEndsTheProcess();
@@ -191,6 +194,62 @@ void tst_VTThreadedProgressCmd::worksOnWhenTheRunEnds()
     });
     QCOMPARE(result, 6);
     QCOMPARE(last, 0);
+}
+
+void tst_VTThreadedProgressCmd::nextRunIsLiveAfterAnEarlyEnd_data()
+{
+    QTest::addColumn<bool>("parentDeleted"); // otherwise the application ends the operation
+    QTest::addColumn<bool>("withinTheFirst");
+    QTest::newRow("parent deleted") << true << false;
+    QTest::newRow("ended") << false << false;
+    QTest::newRow("ended and replaced") << false << true;
+}
+
+// The end of the first run's thread arrives while the second run works.
+void tst_VTThreadedProgressCmd::nextRunIsLiveAfterAnEarlyEnd()
+{
+    QFETCH(const bool, parentDeleted);
+    QFETCH(const bool, withinTheFirst);
+    bool live = false;
+    const auto runSecond = [&] {
+        QTimer::singleShot(150, mWindow, [&] { live = QApplication::activeModalWidget() != nullptr; });
+        execute([](__VTProgress *) {
+            pause(300);
+            return 0;
+        });
+    };
+    QPointer<QWidget> parent(new QWidget);
+    QTimer::singleShot(20, mWindow, [&] {
+        parentDeleted ? delete parent : mManager->endProgress();
+        if (withinTheFirst) {
+            runSecond();
+        }
+    });
+    VTThreadedProgressCmd().execute(
+        QStringLiteral("First"), false,
+        [](__VTProgress *) {
+            pause(100);
+            return 0;
+        },
+        parent);
+    if (!withinTheFirst) {
+        runSecond();
+    }
+    QVERIFY(live);
+    delete parent;
+}
+
+void tst_VTThreadedProgressCmd::endsItsOwnOperationAlone()
+{
+    QObject context;
+    // The thread ends while the GUI thread is busy, so its end and this slot arrive together.
+    QTimer::singleShot(0, mWindow, [] { pause(100); });
+    connect(
+        mManager, &VantraProgressMgr::endProgressSignal, &context,
+        [this] { mManager->beginProgress(mWindow, VantraProgressTypeDefault); }, Qt::QueuedConnection);
+    QCOMPARE(execute([](__VTProgress *) { return 1; }), 1);
+    QVERIFY(mManager->progressRunning());
+    mManager->endProgress();
 }
 
 void tst_VTThreadedProgressCmd::managerGoesInTheRun()

@@ -4,6 +4,7 @@
 
 #include <QtGui/QAccessible>
 #include <QtGui/QShortcut>
+#include <QtGui/QWindow>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QProgressBar>
@@ -29,6 +30,7 @@ private slots:
     void closingAsksForACancel_data();
     void closingAsksForACancel();
     void setCanceledTellsEachTime();
+    void cancelButtonAndCloseButtonGoTogether_data();
     void cancelButtonAndCloseButtonGoTogether();
     void noShortcutFiresWhileItHasTheFocus();
     void buttonWorksByKeyboard();
@@ -125,7 +127,6 @@ void tst_VantraProgress::keys()
     dialog->setCancelEnabled(button != QLatin1String("disabled"));
     if (button == QLatin1String("hidden")) {
         dialog->setCancelVisible(false);
-        dialog->show();
     }
     QSignalSpy spy(dialog, &VantraProgressBaseDlg::progressCanceled);
     QTest::keyClick(dialog, Qt::Key(pressed), Qt::KeyboardModifiers(modifiers));
@@ -166,7 +167,6 @@ void tst_VantraProgress::closingAsksForACancel()
     QVERIFY(dialog != nullptr);
     dialog->setCancelEnabled(enabled);
     dialog->setCancelVisible(visible);
-    dialog->show();
     QSignalSpy spy(dialog, &VantraProgressBaseDlg::progressCanceled);
     dialog->close();
     QVERIFY(dialog->isVisible());
@@ -189,17 +189,34 @@ void tst_VantraProgress::setCanceledTellsEachTime()
     QVERIFY(!dialog.canceled());
 }
 
+void tst_VantraProgress::cancelButtonAndCloseButtonGoTogether_data()
+{
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("before it is shown") << false;
+    QTest::newRow("shown") << true;
+}
+
+// A dialog on the screen stays there.
 void tst_VantraProgress::cancelButtonAndCloseButtonGoTogether()
 {
+    QFETCH(const bool, shown);
     QWidget window;
-    VantraProgress dialog(&window);
-    dialog.setCancelVisible(false);
-    QVERIFY(buttonOf(&dialog)->isHidden());
-    QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
-    dialog.setCancelVisible(true);
-    QVERIFY(!buttonOf(&dialog)->isHidden());
-    QVERIFY(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
-    QVERIFY(dialog.windowFlags().testFlag(Qt::CustomizeWindowHint));
+    VantraProgress *dialog = shown ? shownDialog(window) : new VantraProgress(&window);
+    QVERIFY(dialog != nullptr);
+    const QPoint position = dialog->pos();
+    for (const bool visible : {false, true}) {
+        dialog->setCancelVisible(visible);
+        QCOMPARE(buttonOf(dialog)->isHidden(), !visible);
+        // Qt adds a hint for the menu on some systems.
+        QCOMPARE(dialog->windowFlags() & ~Qt::WindowSystemMenuHint,
+                 visible ? VantraProgressBaseDlg::DEFAULT_WINDOW_FLAGS
+                         : VantraProgressBaseDlg::NO_TITLE_BAR_BUTTONS_WINDOW_FLAGS);
+        QCOMPARE(dialog->isVisible(), shown);
+        QCOMPARE(dialog->pos(), position);
+        if (shown) {
+            QCOMPARE(dialog->windowHandle()->flags(), dialog->windowFlags());
+        }
+    }
 }
 
 void tst_VantraProgress::noShortcutFiresWhileItHasTheFocus()

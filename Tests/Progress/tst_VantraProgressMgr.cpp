@@ -1,45 +1,19 @@
-#include "Progress/VantraProgress.h"
-#include "Progress/VantraProgressMgr.h"
 #include "Support/FatalTest.h"
+#include "Support/ProgressOperations.h"
 #include "Support/ThemeFixture.h"
 #include "Support/Watchdog.h"
 #include "Window/VantraMainWindow.h"
 
-#include <QtCore/QProcess>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 
-#include <cstdio>
-#include <functional>
+#include <atomic>
 #include <optional>
-#include <thread>
+
+using namespace ProgressOperations;
 
 namespace {
-
-// Opens what only subclasses reach.
-class OpenManager : public VantraProgressMgr
-{
-public:
-    explicit OpenManager(QObject *inParent) : VantraProgressMgr(inParent) {}
-    using VantraProgressMgr::logParams;
-    using VantraProgressMgr::setFakeModal;
-
-    static VantraProgressMgr *exchangeInstance(VantraProgressMgr *inManager)
-    {
-        return std::exchange(sInstance, inManager);
-    }
-};
-
-VantraProgress *dialogOf(QWidget *inParent)
-{
-    for (auto *dialog : inParent->findChildren<VantraProgress *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (dialog->result() == 0 && dialog->isEnabled()) {
-            return dialog;
-        }
-    }
-    return nullptr;
-}
 
 VantraProgressMgr *managerOfAWindow(QWidget **outWindow = nullptr)
 {
@@ -48,38 +22,6 @@ VantraProgressMgr *managerOfAWindow(QWidget **outWindow = nullptr)
         *outWindow = window;
     }
     return VantraProgressMgr::sharedInstance();
-}
-
-using Work = std::function<void(__VTProgress *)>;
-
-// An operation with a thread of the application's own. Returns the result of the run.
-int runOnThread(VantraProgressMgr *ioManager, QWidget *inParent, const Work &inWork)
-{
-    int token = 0;
-    ioManager->beginProgress(inParent, token, VantraProgressTypeDefault);
-    __VTProgress *progress = ioManager->progress();
-    std::thread worker([&] {
-        inWork(progress);
-        ioManager->endProgress(token);
-    });
-    const int result = ioManager->runProgress(token);
-    worker.join();
-    return result;
-}
-
-void pause(int inMilliseconds)
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(inMilliseconds));
-}
-
-int workUntilCanceled(__VTProgress *ioProgress)
-{
-    int result = VTProgressDoProgressBeginStage(ioProgress, 1, CFSTR("Work"), 1000000);
-    for (int i = 0; result == 0; ++i) {
-        result = VTProgressDoProgressUpdateStage(ioProgress, i);
-        pause(1);
-    }
-    return result;
 }
 
 // What became of the opacity of a dialog on the screen, looked at before every event that it gets.
@@ -162,17 +104,6 @@ FATAL_CASE(hangs)
     manager->runProgress();
 }
 
-// Another program, which the user has turned to; it ends when it is told anything.
-FATAL_CASE(otherProgram)
-{
-    QWidget window;
-    window.resize(200, 200);
-    window.show();
-    window.activateWindow();
-    std::fputs(QTest::qWaitForWindowActive(&window, 20000) ? "active" : "never active", stderr);
-    std::getchar();
-}
-
 class tst_VantraProgressMgr : public QObject
 {
     Q_OBJECT
@@ -189,6 +120,7 @@ private slots:
     void onePairTooManyDoesNoHarm();
     void operationLine_data();
     void operationLine();
+    void titleChangesWhileAThreadReports();
     void stageSetsTheBar();
     void throttle_data();
     void throttle();
@@ -199,17 +131,9 @@ private slots:
     void busyBar();
     void cancelReachesTheWorker_data();
     void cancelReachesTheWorker();
+    void cancelButtonIsHiddenInTheRun();
     void workOnTheGuiThread_data();
     void workOnTheGuiThread();
-    void focusComesBackTo_data();
-    void focusComesBackTo();
-    void focusIsNotTakenFromAnotherProgram();
-    void parentDeletedInTheRun();
-    void mainWindowClosedInTheRun();
-    void applicationQuitsInTheRun_data();
-    void applicationQuitsInTheRun();
-    void managerGoesInTheRun_data();
-    void managerGoesInTheRun();
     void fakeModalSwallowsInput();
     void logPrefixAndFilter();
 
@@ -348,6 +272,33 @@ void tst_VantraProgressMgr::operationLine()
     QCOMPARE(dialogOf(mWindow)->findChild<QLabel *>(QStringLiteral("labelStage"))->text(),
              QStringLiteral("Größer"));
     mManager->endProgress();
+}
+
+// The GUI thread sets a title for each message while the worker goes on to read them.
+void tst_VantraProgressMgr::titleChangesWhileAThreadReports()
+{
+    int title = 1;
+    mManager->setTitle(QString::number(title));
+    QObject context;
+    std::atomic<int> latest{0};
+    bool sorted = true;
+    connect(
+        mManager, &VantraProgressMgr::progressUpdate, &context,
+        [&](const VantraProgressMsg &inMsg) {
+            const int next = inMsg.title().toInt();
+            sorted = sorted && next >= qMax(1, latest.load());
+            latest = next;
+        },
+        Qt::DirectConnection);
+    connect(mManager, &VantraProgressMgr::progressUpdate, &context,
+            [&] { mManager->setTitle(QString::number(++title)); });
+    runOnThread(mManager, mWindow, [&](__VTProgress *ioProgress) {
+        for (int i = 0; latest < 300 && sorted; ++i) {
+            VTProgressDoProgressBeginStage(ioProgress, i, nullptr, 1);
+        }
+    });
+    mManager->setTitle(QString());
+    QVERIFY(sorted);
 }
 
 void tst_VantraProgressMgr::stageSetsTheBar()
@@ -538,6 +489,24 @@ void tst_VantraProgressMgr::cancelReachesTheWorker()
     QCOMPARE(mManager->keyUsedToCancel(), 0);
 }
 
+void tst_VantraProgressMgr::cancelButtonIsHiddenInTheRun()
+{
+    bool blocks = false;
+    QTimer::singleShot(50, mWindow, [&] { mManager->setCancelVisible(false); });
+    QTimer::singleShot(150, mWindow, [&] {
+        const auto *dialog = qobject_cast<VantraProgress *>(QApplication::activeModalWidget());
+        blocks = dialog != nullptr && dialog->isVisible() && dialog->windowOpacity() == 0.0;
+        mManager->setCancelVisible(true);
+    });
+    QTimer::singleShot(250, mWindow, [&] { dialogOf(mWindow)->close(); });
+    int result = 0;
+    const int code = runOnThread(mManager, mWindow,
+                                 [&](__VTProgress *ioProgress) { result = workUntilCanceled(ioProgress); });
+    QVERIFY(blocks);
+    QCOMPARE(result, 1007);
+    QCOMPARE(code, int(QDialog::Accepted));
+}
+
 void tst_VantraProgressMgr::workOnTheGuiThread_data()
 {
     QTest::addColumn<int>("type");
@@ -565,175 +534,6 @@ void tst_VantraProgressMgr::workOnTheGuiThread()
     QCOMPARE(mManager->keyUsedToCancel(), 0);
     QCOMPARE(watch.highest, 1.0);
     QVERIFY(watch.visibleAfter >= 120);
-}
-
-void tst_VantraProgressMgr::focusComesBackTo_data()
-{
-    QTest::addColumn<bool>("ownParent");
-    QTest::addColumn<bool>("onGuiThread");
-    QTest::newRow("main window") << false << false;
-    QTest::newRow("main window, GUI thread") << false << true;
-    QTest::newRow("another window") << true << false;
-    QTest::newRow("another window, GUI thread") << true << true;
-}
-
-void tst_VantraProgressMgr::focusComesBackTo()
-{
-    QFETCH(const bool, ownParent);
-    QFETCH(const bool, onGuiThread);
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
-    QWidget *parent = ownParent ? &other : mWindow;
-    if (onGuiThread) {
-        mManager->setDelayBeforeShowDialog(20);
-        mManager->beginProgress(parent, VantraProgressTypeUnthrottled);
-        pause(30);
-        mManager->updateStage(0);
-        QVERIFY(QTest::qWaitForWindowActive(dialogOf(parent)));
-        mManager->endProgress();
-    } else {
-        runOnThread(mManager, parent, [](__VTProgress *) { pause(200); });
-    }
-    QVERIFY(QTest::qWaitForWindowActive(parent));
-    QTest::qWait(50);
-    QCOMPARE(QApplication::activeWindow(), parent);
-}
-
-void tst_VantraProgressMgr::focusIsNotTakenFromAnotherProgram()
-{
-    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
-        QSKIP("programs share no screen here");
-    }
-    QProcess other;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("VTWIDGETS_FATAL_CASE"), QStringLiteral("otherProgram"));
-    other.setProcessEnvironment(environment);
-    std::atomic<bool> active{false};
-    connect(&other, &QProcess::readyReadStandardError, mWindow,
-            [&] { active = active || other.readAllStandardError().contains("active"); });
-    QTimer::singleShot(50, mWindow, [&] { other.start(QCoreApplication::applicationFilePath(), {}); });
-    runOnThread(mManager, mWindow, [&](__VTProgress *) {
-        while (!active) {
-            pause(10);
-        }
-        pause(200);
-    });
-    QTest::qWait(300);
-    QCOMPARE(QGuiApplication::applicationState(), Qt::ApplicationInactive);
-    QVERIFY(QApplication::activeWindow() == nullptr);
-    other.closeWriteChannel();
-    QVERIFY(other.waitForFinished());
-    mWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow));
-}
-
-void tst_VantraProgressMgr::parentDeletedInTheRun()
-{
-    QPointer<QWidget> parent(new QWidget);
-    parent->show();
-    QTimer::singleShot(50, mWindow, [&] { delete parent; });
-    std::atomic<bool> goOn{true};
-    int token = 0;
-    mManager->beginProgress(parent, token, VantraProgressTypeDefault);
-    __VTProgress *progress = mManager->progress();
-    std::thread worker([&] {
-        while (goOn) {
-            VTProgressDoProgressUpdateStage(progress, 1);
-        }
-        mManager->endProgress(token);
-    });
-    QCOMPARE(mManager->runProgress(token), int(QDialog::Rejected));
-    QVERIFY(parent.isNull());
-    QVERIFY(mManager->progressRunning());
-    QCOMPARE(mManager->runProgress(token), 0); // nothing to run in
-    goOn = false;
-    worker.join();
-    QTRY_VERIFY(!mManager->progressRunning());
-    QVERIFY(QTest::qWaitForWindowActive(mWindow));
-}
-
-void tst_VantraProgressMgr::mainWindowClosedInTheRun()
-{
-    VantraMainWindow other; // keeps the application from quitting
-    VantraMainWindow::setActiveWindow(mWindow);
-    other.show();
-    bool stays = false;
-    QTimer::singleShot(50, mWindow, [&] { mWindow->close(); });
-    QTimer::singleShot(150, mWindow,
-                       [&] { stays = !mWindow->isVisible() && dialogOf(mWindow)->isVisible(); });
-    QCOMPARE(runOnThread(mManager, mWindow, [](__VTProgress *) { pause(300); }), int(QDialog::Accepted));
-    QVERIFY(stays);
-    mWindow->show();
-    mWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow));
-}
-
-void tst_VantraProgressMgr::applicationQuitsInTheRun_data()
-{
-    QTest::addColumn<bool>("byForce");
-    QTest::newRow("quit asks for a cancel") << false;
-    QTest::newRow("exit ends the run") << true;
-}
-
-void tst_VantraProgressMgr::applicationQuitsInTheRun()
-{
-    QFETCH(const bool, byForce);
-    int code = -1;
-    int answer = -1;
-    bool stillRunning = false;
-    QTimer::singleShot(50, mWindow, [&] { byForce ? QCoreApplication::exit() : QCoreApplication::quit(); });
-    QTimer::singleShot(0, mWindow, [&] {
-        code = runOnThread(mManager, mWindow, [&](__VTProgress *ioProgress) {
-            pause(300);
-            answer = VTProgressDoProgressUpdateStage(ioProgress, 0);
-        });
-        stillRunning = mManager->progressRunning();
-        QCoreApplication::exit();
-    });
-    QApplication::exec();
-    QCOMPARE(code, int(byForce ? QDialog::Rejected : QDialog::Accepted));
-    QCOMPARE(answer, byForce ? 0 : 1007);
-    // After the end by force, the worker's own is still on its way.
-    QCOMPARE(stillRunning, byForce);
-    QTRY_VERIFY(!mManager->progressRunning());
-    mWindow->show(); // closed by the attempt to quit
-    mWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow));
-}
-
-void tst_VantraProgressMgr::managerGoesInTheRun_data()
-{
-    QTest::addColumn<bool>("onGuiThread");
-    QTest::newRow("worker") << false;
-    QTest::newRow("GUI thread") << true;
-}
-
-// The window that owns the manager is deleted under an operation.
-void tst_VantraProgressMgr::managerGoesInTheRun()
-{
-    QFETCH(const bool, onGuiThread);
-    VantraProgressMgr *former = OpenManager::exchangeInstance(nullptr);
-    auto *window = new VantraMainWindow;
-    window->show();
-    QPointer<VantraProgressMgr> manager(VantraProgressMgr::sharedInstance());
-    QTimer::singleShot(50, mWindow, [&] { delete window; });
-    manager->beginProgress(window, onGuiThread ? VantraProgressTypeUnthrottled : VantraProgressTypeDefault);
-    __VTProgress *progress = VTProgressRetain(manager->progress());
-    std::atomic<int> result{0};
-    if (onGuiThread) {
-        result = workUntilCanceled(progress);
-    } else {
-        std::thread worker([&] { result = workUntilCanceled(progress); });
-        QCOMPARE(manager->runProgress(), 0);
-        worker.join();
-    }
-    QCOMPARE(result.load(), 1007);
-    QVERIFY(manager.isNull());
-    VTProgressRelease(progress);
-    OpenManager::exchangeInstance(former);
-    VantraMainWindow::setActiveWindow(mWindow);
 }
 
 void tst_VantraProgressMgr::fakeModalSwallowsInput()

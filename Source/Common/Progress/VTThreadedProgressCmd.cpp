@@ -19,6 +19,7 @@ int VTThreadedProgressCmd::execute(const QString &inTitle, bool inIndeterminate,
     manager->beginProgress(inParent, mToken, VantraProgressTypeDefault);
     manager->setCancelEnabled(mAllowCancel);
     mProgress = manager->mVTProgressOwner;
+    manager->beginCommand(mProgress.get(), mToken);
     start(QThread::InheritPriority);
     if (inIndeterminate) {
         manager->runProgressIndeterminate(inTitle, mToken);
@@ -26,7 +27,7 @@ int VTThreadedProgressCmd::execute(const QString &inTitle, bool inIndeterminate,
         manager->runProgress(mToken);
     }
     if (!manager.isNull()) {
-        manager->endProgress(mToken);
+        manager->endCommand(mProgress.get(), mToken);
     }
     wait(QDeadlineTimer(QDeadlineTimer::Forever));
     const int result = mResult.load(std::memory_order_acquire);

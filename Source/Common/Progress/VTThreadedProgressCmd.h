@@ -15,8 +15,9 @@
 // progress ends with the command, one level early.
 //
 // When the dialog ends before the function does, as for an application that quits, execute still waits for
-// the function. A function that leaves its thread instead of returning counts as one that returned 0. One
-// that throws ends the process, as for every thread of Qt.
+// the function, and the late end of its thread doesn't end the next operation. A function that leaves its
+// thread instead of returning counts as one that returned 0. One that throws ends the process, as for every
+// thread of Qt.
 
 #include "VTProgress.h"
 #include "VTWidgetsLiteExport.h"

@@ -3,6 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
@@ -150,7 +151,13 @@ void VantraProgress::setCancelVisible(bool inVisible)
     mUi->buttonCancel->setVisible(inVisible);
     Qt::WindowFlags flags = NO_TITLE_BAR_BUTTONS_WINDOW_FLAGS;
     flags.setFlag(Qt::WindowCloseButtonHint, inVisible);
-    setWindowFlags(flags);
+    if (QWindow *window = isVisible() ? windowHandle() : nullptr) {
+        // QWidget::setWindowFlags hides the dialog, which would end its exec().
+        overrideWindowFlags(flags);
+        window->setFlags(flags);
+    } else {
+        setWindowFlags(flags);
+    }
 }
 
 void VantraProgress::reject()

@@ -49,8 +49,8 @@ public:
     // on working.
     void setCancelEnabled(bool inEnabled) override;
 
-    // Shows or hides the button together with the close button of the title bar; visible by default. As
-    // for every change of window flags, a dialog on the screen is hidden by it and has to be shown again.
+    // Shows or hides the button together with the close button of the title bar; visible by default. A
+    // visible dialog stays visible, so that a running exec() goes on.
     virtual void setCancelVisible(bool inVisible);
 
 public slots:

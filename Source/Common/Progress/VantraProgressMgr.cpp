@@ -13,6 +13,8 @@
 #include <QtCore/QThread>
 #include <QtGui/QKeyEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr int kDefaultDelay = 2000;     // ms
@@ -41,30 +43,14 @@ public:
         --sOwnVisits;
     }
 
+    static bool othersAreHere() { return sVisitors.load() > sOwnVisits; }
+
     static void waitForOthers()
     {
-        while (sVisitors.load() > sOwnVisits) {
+        while (othersAreHere()) {
             QThread::yieldCurrentThread();
         }
     }
-};
-
-// Held while a text is copied or exchanged, a handful of instructions.
-class BriefHold
-{
-public:
-    explicit BriefHold(std::atomic<bool> &ioInUse) : mInUse(ioInUse)
-    {
-        while (mInUse.exchange(true, std::memory_order_acquire)) {
-            QThread::yieldCurrentThread();
-        }
-    }
-    BriefHold(const BriefHold &) = delete;
-    BriefHold &operator=(const BriefHold &) = delete;
-    ~BriefHold() { mInUse.store(false, std::memory_order_release); }
-
-private:
-    std::atomic<bool> &mInUse;
 };
 
 // Everybody who takes the manager's lock runs on the GUI thread. Who finds it taken was called by a slot that
@@ -75,6 +61,15 @@ QMutex *notTakenAbove(QMutex *ioMutex)
     Q_ASSERT(!takenAbove && "An operation may not begin, run or end while another one is ending.");
     ioMutex->unlock();
     return ioMutex;
+}
+
+// A slot on the end of the dialog may delete the dialog.
+void closeDialog(const QPointer<VantraProgressBaseDlg> &inDialog, bool inDelete)
+{
+    inDialog->accept();
+    if (inDialog && inDelete) {
+        inDialog->deleteLater();
+    }
 }
 
 QString defaultPrefix(const VTQtLog::LogParams &inParams)
@@ -111,6 +106,7 @@ VantraProgressMgr::VantraProgressMgr(QObject *inParent) : QObject(inParent)
     qRegisterMetaType<VantraProgressMsg>("VantraProgressMsg");
     qRegisterMetaType<VantraProgressToken>("VantraProgressToken");
     mLastUpdateTimer.start();
+    setTitle(QString());
     mLogParams.mPrefix = &defaultPrefix;
     mLogParams.mFilter = &defaultFilter;
 }
@@ -124,10 +120,9 @@ VantraProgressMgr::~VantraProgressMgr()
         VTProgressSetCB(progress, &VantraProgressMgr::progressCB, nullptr);
     }
     Visit::waitForOthers();
+    disconnect(mCancelConnection);
     if (mProgressDlg) {
-        disconnect(mCancelConnection);
-        mProgressDlg->accept();
-        mProgressDlg->deleteLater();
+        closeDialog(std::exchange(mProgressDlg, nullptr), true);
     }
 }
 
@@ -159,7 +154,7 @@ int VantraProgressMgr::beginProgress(QWidget *inParent, VantraProgressType inTyp
 
 int VantraProgressMgr::beginProgress(QWidget *inParent, int &outToken, VantraProgressType inType)
 {
-    const QMutexLocker locker(notTakenAbove(&mMutex));
+    const QMutexLocker locker(notTakenAbove(mMutex.get()));
     outToken = 0;
     if (++mProgressCount > 1) {
         return 0;
@@ -231,7 +226,7 @@ int VantraProgressMgr::runProgress()
 
 int VantraProgressMgr::runProgress(int inToken)
 {
-    QMutexLocker locker(notTakenAbove(&mMutex));
+    QMutexLocker locker(notTakenAbove(mMutex.get()));
     if (mProgressCount > 1) {
         return 0;
     }
@@ -249,6 +244,8 @@ int VantraProgressMgr::runProgress(int inToken)
         mTimer.start(mDelayBeforeShowDialog);
         mProgressDlg->setModal(true);
     }
+    // A slot may begin the next operation, with its own connection, before this run returns.
+    const QMetaObject::Connection cancelConnection = mCancelConnection;
     // Without dialog and delay the locker below ends a caller's error that would hang otherwise.
     if (delayed || mProgressDlg) {
         mExecState = kExecRunning;
@@ -261,8 +258,8 @@ int VantraProgressMgr::runProgress(int inToken)
             return 0;
         }
     }
-    if (mCancelConnection) {
-        disconnect(mCancelConnection);
+    if (cancelConnection) {
+        disconnect(cancelConnection);
     }
     locker.relock();
     mExecState = 0;
@@ -295,7 +292,8 @@ void VantraProgressMgr::endProgress()
 
 void VantraProgressMgr::endProgress(int inToken)
 {
-    if (QThread::currentThread() != QCoreApplication::instance()->thread()) {
+    // The manager lives on the application's thread, also after the application object is gone.
+    if (QThread::currentThread() != thread()) {
         emit endProgressSignal(inToken);
     } else {
         endProgressNow();
@@ -318,10 +316,37 @@ void VantraProgressMgr::endProgressOf(__VTProgress *inProgress, int inToken)
     }
 }
 
-void VantraProgressMgr::endProgressSlot(VantraProgressToken)
+void VantraProgressMgr::beginCommand(const __VTProgress *inProgress, VantraProgressToken inToken)
 {
-    const QMutexLocker locker(notTakenAbove(&mMutex));
-    if (--mProgressCount > 0) {
+    // A nested command has no token, and the end of its thread always counts.
+    if (inToken != 0) {
+        mThreadEnds.insert(inToken, inProgress);
+    }
+}
+
+void VantraProgressMgr::endCommand(const __VTProgress *inProgress, VantraProgressToken inToken)
+{
+    // This end replaces that of the command's thread, which may still be in the queue.
+    if (const auto end = mThreadEnds.find(inToken); end != mThreadEnds.end()) {
+        *end = nullptr;
+    }
+    // A slot may have begun the next operation already.
+    const __VTProgress *current = mVTProgressRef;
+    if (current == nullptr || current == inProgress) {
+        endProgress(inToken);
+    }
+}
+
+void VantraProgressMgr::endProgressSlot(VantraProgressToken inToken)
+{
+    // A slot on the end of the dialog may delete this manager, but the locked mutex has to outlive it.
+    const QPointer<VantraProgressMgr> self(this);
+    const std::shared_ptr<QMutex> mutex = mMutex;
+    const QMutexLocker locker(notTakenAbove(mutex.get()));
+    const __VTProgress *current = mVTProgressRef;
+    const bool isLate = mThreadEnds.value(inToken, current) != current;
+    mThreadEnds.remove(inToken);
+    if (isLate || --mProgressCount > 0) {
         return;
     }
     if (mProgressCount < 0) {
@@ -330,13 +355,13 @@ void VantraProgressMgr::endProgressSlot(VantraProgressToken)
     }
     if (mProgressDlg) {
         detachFromParentWindow();
-        mProgressDlg->accept();
-        mKeyUsedToCancel = keyOfDialog();
-        if (mDeleteDialogAtEnd) {
-            mProgressDlg->deleteLater();
-            mDeleteDialogAtEnd = false;
+        const int key = keyOfDialog();
+        const bool deletesDialog = std::exchange(mDeleteDialogAtEnd, false);
+        closeDialog(std::exchange(mProgressDlg, nullptr), deletesDialog);
+        if (self.isNull()) {
+            return;
         }
-        mProgressDlg = nullptr;
+        mKeyUsedToCancel = key;
     }
     mVTProgressRef = nullptr;
     mVTProgressOwner.reset();
@@ -347,7 +372,7 @@ void VantraProgressMgr::endProgressSlot(VantraProgressToken)
 void VantraProgressMgr::endProgressNow()
 {
     {
-        const QMutexLocker locker(notTakenAbove(&mMutex));
+        const QMutexLocker locker(notTakenAbove(mMutex.get()));
         if (--mProgressCount == 0) {
             mPreviousProgressDlg = mProgressDlg;
             mProgressDlg = nullptr;
@@ -378,9 +403,11 @@ void VantraProgressMgr::cleanupPreviousProgressDialog()
         // The dialog of the operation that has just ended is no longer the current one, so the key that
         // canceled it is not found here.
         checkForCancelData();
-        mPreviousProgressDlg->accept();
-        mPreviousProgressDlg->deleteLater();
-        mPreviousProgressDlg = nullptr;
+        const QPointer<VantraProgressMgr> self(this);
+        closeDialog(std::exchange(mPreviousProgressDlg, nullptr), true);
+        if (self.isNull()) {
+            return;
+        }
     }
     mPreviousVTProgressRef.reset();
     reactivate(mPreviousWidgetToReactivate);
@@ -388,7 +415,8 @@ void VantraProgressMgr::cleanupPreviousProgressDialog()
 
 void VantraProgressMgr::cleanupPreviousProgressDialogSlot()
 {
-    const QMutexLocker locker(notTakenAbove(&mMutex));
+    const std::shared_ptr<QMutex> mutex = mMutex; // outlives a manager that a slot deletes
+    const QMutexLocker locker(notTakenAbove(mutex.get()));
     cleanupPreviousProgressDialog();
 }
 
@@ -408,9 +436,10 @@ void VantraProgressMgr::checkForCancelData()
 
 void VantraProgressMgr::reactivate(QPointer<QWidget> &ioWidget)
 {
+    // Before the activation, because a slot that answers it may delete this manager.
     QWidget *widget = ioWidget;
+    ioWidget = nullptr;
     reactivateMainWindow(widget);
-    ioWidget = widget;
 }
 
 void VantraProgressMgr::reactivateMainWindow(QWidget *&ioWidget)
@@ -431,15 +460,18 @@ __VTProgress *VantraProgressMgr::progress() const
 
 QString VantraProgressMgr::title() const
 {
-    const BriefHold hold(mTitleInUse);
-    return mTitle;
+    const Visit visit; // so that setTitle keeps the text
+    return *mTitle.load();
 }
 
 void VantraProgressMgr::setTitle(const QString &inTitle)
 {
-    QString title = inTitle;
-    const BriefHold hold(mTitleInUse);
-    mTitle.swap(title);
+    mTitles.push_back(std::make_unique<const QString>(inTitle));
+    mTitle = mTitles.back().get();
+    // Another thread may be copying an earlier title.
+    if (!Visit::othersAreHere()) {
+        mTitles.erase(mTitles.begin(), mTitles.end() - 1);
+    }
 }
 
 void VantraProgressMgr::setCancelEnabled(bool inEnabled)

@@ -21,12 +21,15 @@
 //
 // Threads: the progress object, endProgress() and canceled() are for all of them, and so are beginStage,
 // updateStage, updateStageAndName and endStage while the operation lasts. Everything else belongs to the GUI
-// thread. A worker never waits for the GUI thread.
+// thread. The manager has one lock. Only the GUI thread takes it, so a worker never waits for the GUI thread.
 //
-// Nesting: an operation within an operation shares the outer one's dialog. Each beginProgress asks for one
-// endProgress; further ones do no harm. Don't begin, run or end an operation in a slot that answers the
-// closing of the dialog or the window's return to the front: the manager is at work then, and such a call
-// stops the process. A queued slot may.
+// Nesting: an operation within an operation shares the outer one's dialog. Each beginProgress needs one
+// endProgress. A further one has no effect between two operations, but during the next operation it ends
+// that one. VTThreadedProgressCmd ends only its own operation.
+//
+// Don't begin, run or end an operation in a slot that answers the closing of the dialog or the window's
+// return to the front: the manager is at work then, and such a call stops the process. A queued slot may. A
+// slot on the dialog's finished() may delete the dialog's parent or the window that owns the manager.
 //
 // What ends early:
 // - Parent deleted: the dialog ends with it, and runProgress returns 0. The operation goes on unseen until
@@ -35,7 +38,8 @@
 //   alone; dialog and operation stay.
 // - Application quitting: quit() asks the dialog to close, as its title bar does, so that it cancels if the
 //   button is enabled, and is refused. exit() ends the run, which returns 0; the operation goes on, worker
-//   and caller still end it, and who waits for the worker waits for its whole work.
+//   and caller still end it, and who waits for the worker waits for its whole work. An endProgress() of a
+//   worker that comes after the application object is gone has no effect.
 // - Window that owns the manager deleted: the manager goes with it, and nobody may use it any more. The
 //   dialog ends, runProgress returns 0, and the algorithm's next progress call is answered with 1007. An
 //   algorithm on another thread that goes on with its progress object has to hold a reference of its own.
@@ -47,6 +51,7 @@
 #include "VTWidgetsLiteExport.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QMutex>
 #include <QtCore/QObject>
@@ -56,6 +61,7 @@
 
 #include <atomic>
 #include <memory>
+#include <vector>
 
 class VantraProgressBaseDlg;
 
@@ -133,7 +139,7 @@ public:
     // nothing without a dialog.
     void setCancelEnabled(bool inEnabled);
 
-    // Shows or hides the Cancel button. Stops the process without a dialog that has one.
+    // Shows or hides the Cancel button, also during a run. Stops the process without a dialog that has one.
     void setCancelVisible(bool inVisible);
 
     // Whether the operation has been canceled, as far as the manager knows: it asks the dialog at every
@@ -200,6 +206,8 @@ private:
     static constexpr int kCanceledResult = 1007;
 
     static void endProgressOf(__VTProgress *inProgress, int inToken);
+    void beginCommand(const __VTProgress *inProgress, VantraProgressToken inToken);
+    void endCommand(const __VTProgress *inProgress, VantraProgressToken inToken);
     void connectSignals();
     bool passesThrottle();
     void makeDialog(QWidget *inParent);
@@ -218,8 +226,8 @@ private:
     std::atomic<qint64> mLastUpdateTime{0}; // in ms by that timer
     std::atomic<int> mMinUpdateInterval{500};
     int mDelayBeforeShowDialog = 2000;
-    QString mTitle;
-    mutable std::atomic<bool> mTitleInUse{false};
+    std::atomic<const QString *> mTitle{nullptr};        // the last of the titles
+    std::vector<std::unique_ptr<const QString>> mTitles; // earlier ones while other threads may copy them
     bool mDeleteDialogAtEnd = false;
     QPointer<QWidget> mWidgetToReactivate;
     bool mDialogShown = false;
@@ -241,7 +249,10 @@ private:
     QPointer<VantraProgressBaseDlg> mPreviousProgressDlg;
     std::shared_ptr<__VTProgress> mPreviousVTProgressRef;
     QPointer<QWidget> mPreviousWidgetToReactivate;
-    QMutex mMutex;
+    std::shared_ptr<QMutex> mMutex = std::make_shared<QMutex>();
+    // The operations of the threaded commands whose thread has not yet ended, by token. Null for an operation
+    // that the GUI thread has ended.
+    QHash<VantraProgressToken, const __VTProgress *> mThreadEnds;
     int mRunCount = 0;
     VTQtLog::LogParams mLogParams;
     bool mGoing = false;
