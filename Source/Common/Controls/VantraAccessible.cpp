@@ -91,7 +91,7 @@ public:
     }
 
     QString imageDescription() const override { return text(QAccessible::Description); }
-    QSize imageSize() const override { return label()->pixmap().size(); }
+    QSize imageSize() const override { return label()->pixmap().deviceIndependentSize().toSize(); }
     QPoint imagePosition() const override { return rect().topLeft(); }
 
 private:

@@ -116,6 +116,10 @@ void VantraStyle::polish(QPalette &palette)
         palette.setColor(group, QPalette::Window, look.windowBackgroundColor(group));
         palette.setColor(group, QPalette::Base, look.windowBackgroundColor(group));
         palette.setColor(group, QPalette::Highlight, look.highlightedTextBackgroundColor(group));
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+        palette.setColor(group, QPalette::Accent,
+                         look.highlightedTextBackgroundColor(group)); // as Qt has it by default
+#endif
         palette.setColor(group, QPalette::Text, look.windowTextColor(group));
         palette.setColor(group, QPalette::HighlightedText, look.highlightedTextColor(group));
         palette.setColor(group, QPalette::PlaceholderText, look.windowTextColor(group));
