@@ -40,6 +40,7 @@ private slots:
     void ancestorsAreAtAnyDistance();
     void centreIsThatOfTheParent();
     void inactiveApplicationStaysInactive();
+    void frameFollowsTheThemeInEveryWindow();
     void updatesComeBackAsTheyWere();
     void updatesOfAChildComeBackWithItsParent();
 };
@@ -120,6 +121,19 @@ void tst_VTWidgetUtils::centreIsThatOfTheParent()
     VTWidgetsCenterOnParent(&dialog, &parent);
     const QRect area(parent.mapToGlobal(QPoint()), parent.size());
     QCOMPARE(QRect(dialog.pos(), dialog.size()).center(), area.center());
+}
+
+void tst_VTWidgetUtils::frameFollowsTheThemeInEveryWindow()
+{
+    QVERIFY(ThemeFixture::load());
+    QVERIFY(VTWidgetsIsThemeDark());
+    QWidget window;
+    VTWidgetsMatchFrameToTheme(&window);
+    QCOMPARE(window.internalWinId(), WId(0)); // not made for it
+    window.show();
+    window.setWindowFlag(Qt::WindowStaysOnTopHint); // makes another native window on some systems
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
 }
 
 void tst_VTWidgetUtils::inactiveApplicationStaysInactive()
