@@ -23,17 +23,18 @@ fetch_sources() {
     (cd "$work" && apt-get "${options[@]}" source -qq "qt6-base=$version")
 }
 
-# The header of tablets, wintab.h, is not among Debian's sources.
-leave_out_tablets() {
+# The header of tablets, wintab.h, is not among Debian's sources. OpenGL that is chosen at run time does not go away with
+# OpenGL itself.
+leave_out_features() {
     local platforms=$1/src/plugins/platforms
-    sed -i 's/QT_CONFIG(tabletevent)/0/' "$platforms"/windows/*.{h,cpp} "$platforms"/direct2d/*.{h,cpp}
+    sed -i -E 's/QT_CONFIG\((tabletevent|dynamicgl)\)/0/' "$platforms"/windows/*.{h,cpp} "$platforms"/direct2d/*.{h,cpp}
     sed -i 's/CONDITION QT_FEATURE_tabletevent/CONDITION FALSE/' "$platforms"/{windows,direct2d}/CMakeLists.txt
 }
 
 if [[ ! -f $work/fetched ]]; then
     rm -rf "$work"/qt6-base-*/ "$work/build"
     fetch_sources
-    leave_out_tablets "$(echo "$work"/qt6-base-*/)"
+    leave_out_features "$(echo "$work"/qt6-base-*/)"
     touch "$work/fetched"
 fi
 
