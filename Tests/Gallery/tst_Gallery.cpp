@@ -28,8 +28,8 @@ Result gallery(const QStringList &inArguments, bool inWithoutWindowSystem = fals
     process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/vtwidgets-gallery"), inArguments);
     if (!process.waitForFinished(240000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, QString(), process.errorString()};
-    return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),
-            QString::fromLocal8Bit(process.readAllStandardError())};
+    const auto text = [](const QByteArray &inBytes) { return QString::fromLocal8Bit(inBytes).remove('\r'); };
+    return {process.exitCode(), text(process.readAllStandardOutput()), text(process.readAllStandardError())};
 }
 
 QStringList pages()

@@ -1,5 +1,7 @@
 #include "VTProgress.h"
 
+#include <QtCore/QThreadStorage>
+
 #include <atomic>
 #include <mutex>
 #include <utility>
@@ -52,8 +54,19 @@ private:
     CFStringRef mString = nullptr;
 };
 
-thread_local Loan sTitleLoan;
-thread_local Loan sStageNameLoan;
+struct Loans
+{
+    Loan title;
+    Loan stageName;
+};
+
+// Not thread_local: MinGW frees the memory of such variables before it destroys them. Not destroyed at the
+// program's end, which threads may outlive.
+Loans &loans()
+{
+    static QThreadStorage<Loans> &sLoans = *new QThreadStorage<Loans>;
+    return sLoans.localData();
+}
 
 // A string that threads may exchange while others read it.
 class SharedText
@@ -184,7 +197,7 @@ void VTProgressSetTitle(__VTProgress *ioProgress, CFStringRef inTitle)
 
 CFStringRef VTProgressGetTitle(const __VTProgress *inProgress)
 {
-    return inProgress == nullptr ? nullptr : inProgress->title.borrow(sTitleLoan);
+    return inProgress == nullptr ? nullptr : inProgress->title.borrow(loans().title);
 }
 
 void VTProgressSetStages(__VTProgress *ioProgress, int inStages)
@@ -223,7 +236,7 @@ void VTProgressSetStageName(__VTProgress *ioProgress, CFStringRef inName)
 
 CFStringRef VTProgressGetStageName(const __VTProgress *inProgress)
 {
-    return inProgress == nullptr ? nullptr : inProgress->stageName.borrow(sStageNameLoan);
+    return inProgress == nullptr ? nullptr : inProgress->stageName.borrow(loans().stageName);
 }
 
 int VTProgressDoProgressBeginStage(__VTProgress *ioProgress, int inStage, CFStringRef inName,
