@@ -19,6 +19,7 @@ qt=${VTWIDGETS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/vtwidgets}/qt-windows-$ver
 
 # Tests that can't pass under Wine, each with its reason.
 left_out=(
+    'tst_PhotoTour: its functions pass, but then the process waits in the C++ runtime of MinGW for a lock and never ends'
 )
 
 export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
@@ -39,7 +40,7 @@ for library in Core Gui Widgets Concurrent Test; do
     cp -u "$qt/bin/Qt6$library.dll" "$build/bin"
 done
 mkdir -p "$build/bin/platforms" "$build/bin/imageformats" "$build/bin/styles"
-cp -u "$qt"/plugins/platforms/{qwindows,qoffscreen}.dll "$build/bin/platforms"
+cp -u "$qt"/plugins/platforms/{qwindows,qoffscreen,qminimal}.dll "$build/bin/platforms"
 cp -u "$qt"/plugins/imageformats/*.dll "$build/bin/imageformats"
 
 # One display for everything: Wine wants one for its windows, and the offscreen tests don't mind.
@@ -54,7 +55,8 @@ trap 'WINEPREFIX=$WINEPREFIX "${wine/wine64/wineserver64}" -k 2>/dev/null || tru
 if [[ -n $pages ]]; then
     mkdir -p "$pages"
     pages=$(cd "$pages" && pwd)
-    QT_QPA_PLATFORM=offscreen in_display "$wine" "$build/bin/vtwidgets-gallery.exe" --all-screenshots "Z:$pages"
+    # Wine keeps Qt's variables from programs unless they are marked as its own.
+    WINEQT_QPA_PLATFORM=offscreen in_display "$wine" "$build/bin/vtwidgets-gallery.exe" --all-screenshots "Z:$pages"
     echo "test-windows: $pages/*.png"
 fi
 

@@ -5,6 +5,7 @@
 #include <QtCore/QRegularExpression>
 
 #include <cstdlib>
+#include <exception>
 
 #if defined(Q_OS_UNIX)
 #include <sys/resource.h>
@@ -14,6 +15,7 @@ namespace {
 
 const char *const kCaseVariable = "VTWIDGETS_FATAL_CASE";
 constexpr int kCameBackCode = 42;
+[[maybe_unused]] constexpr int kAbortedCode = 3; // as of abort() on Windows
 constexpr int kTimeout = 60000; // ms; a child under sanitizers on a busy machine is slow to start
 
 QHash<QByteArray, FatalTest::Case> &cases()
@@ -88,6 +90,9 @@ void FatalTest::prepareProcess()
         const rlimit none = {0, 0};
         setrlimit(RLIMIT_CORE, &none);
     }
+#elif defined(Q_OS_WIN)
+    // Here abort() may open a dialog and wait for the user.
+    std::set_terminate([] { std::_Exit(kAbortedCode); });
 #endif
 }
 

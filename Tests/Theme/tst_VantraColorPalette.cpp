@@ -276,6 +276,9 @@ private slots:
 
     void lookupsDoNotAllocate()
     {
+#if defined(Q_OS_WIN)
+        QSKIP("an operator new of this program doesn't reach another library here");
+#endif
         VantraColorPalette palette;
         palette.setColor(P::Normal, P::Accent, Qt::blue);
         palette.color(P::Normal, P::WindowText); // makes the red, once

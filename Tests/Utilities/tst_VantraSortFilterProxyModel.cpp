@@ -66,7 +66,7 @@ void tst_VantraSortFilterProxyModel::listIsSortedAsAPersonExpects_data()
     add("numbers and case", "a10 A2 a1", "a1 A2 a10");
     add("equal texts keep their order", "b B a A b a", "a A a b B b");
     add("numbers of many digits", "f20230101120000 f9 f100000", "f9 f100000 f20230101120000");
-    add("leading zeros", "7 007 08 6", "6 7 007 08");
+    add("leading zeros", "7 08 6 009", "6 7 08 009");
     add("accents", "Z zö Zo é e f", "e é f Z Zo zö");
 }
 

@@ -405,8 +405,10 @@ void tst_VantraMessageBox::tabVisitsEveryButton()
         visited << QAccessible::queryAccessibleInterface(box.focusWidget())->text(QAccessible::Name);
         QTest::keyClick(box.focusWidget(), Qt::Key_Tab);
     }
-    QCOMPARE(visited,
-             QStringList({text("Yes"), text("No"), text("Don't show me this message again"), text("Yes")}));
+    QCOMPARE(visited.first(), text("Yes"));
+    QCOMPARE(visited.takeLast(), text("Yes"));
+    visited.sort(); // each system has the buttons in its own order
+    QCOMPARE(visited, QStringList({text("Don't show me this message again"), text("No"), text("Yes")}));
 }
 
 void tst_VantraMessageBox::centresOnWhatIsVisible()

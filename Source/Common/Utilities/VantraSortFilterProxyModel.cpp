@@ -1,5 +1,7 @@
 #include "Utilities/VantraSortFilterProxyModel.h"
 
+#include "VTQtSysInfo.h"
+
 #include <QtCore/QLocale>
 #include <QtCore/QStringListModel>
 #include <QtWidgets/QAbstractItemView>
@@ -20,9 +22,10 @@ class VantraSortFilterProxyModel::KeyCache
 public:
     explicit KeyCache(const QCollator &inCollator) : mCollator(inCollator)
     {
-        // The "C" locale has no keys that agree with its comparison.
+        // The keys of the "C" locale don't agree with its comparison. Those of Windows don't either, as Qt
+        // compares their bytes in pairs and what was in the memory after them.
         mUsable =
-            inCollator.locale().language() != QLocale::C &&
+            !VTQtSysInfo::isWinPlatform() && inCollator.locale().language() != QLocale::C &&
             inCollator.sortKey(QStringLiteral("a")).compare(inCollator.sortKey(QStringLiteral("b"))) < 0;
     }
 
