@@ -14,7 +14,8 @@ build=$root/build/windows
 compiler=x86_64-w64-mingw32-g++-posix
 
 version=$(dpkg-query -W -f '${source:Version}' qt6-base-dev)
-qt=${VTWIDGETS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/vtwidgets}/qt-windows-$version
+cache=${VTWIDGETS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/vtwidgets}
+qt=$cache/qt-windows-$version
 [[ -d $qt ]] || "$here/build_qt.sh" "$version" "$qt"
 
 # Tests that can't pass under Wine, each with its reason.
@@ -22,7 +23,8 @@ left_out=(
     'tst_PhotoTour: its functions pass, but then the process waits in the C++ runtime of MinGW for a lock and never ends'
 )
 
-export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+# Not below the project, as tools that walk through it would find this whole system there.
+export WINEPREFIX=$cache/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
 
 cd "$root"

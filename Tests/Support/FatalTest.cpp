@@ -9,6 +9,8 @@
 
 #if defined(Q_OS_UNIX)
 #include <sys/resource.h>
+#elif defined(Q_OS_WIN)
+#include <qt_windows.h>
 #endif
 
 namespace {
@@ -91,8 +93,11 @@ void FatalTest::prepareProcess()
         setrlimit(RLIMIT_CORE, &none);
     }
 #elif defined(Q_OS_WIN)
-    // Here abort() may open a dialog and wait for the user.
-    std::set_terminate([] { std::_Exit(kAbortedCode); });
+    // Here abort() and a crash may open a dialog and wait for the user.
+    if (qEnvironmentVariableIsSet(kCaseVariable)) {
+        std::set_terminate([] { std::_Exit(kAbortedCode); });
+        SetUnhandledExceptionFilter([](EXCEPTION_POINTERS *) -> LONG { std::_Exit(kAbortedCode); });
+    }
 #endif
 }
 

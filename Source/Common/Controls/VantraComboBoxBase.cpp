@@ -185,7 +185,8 @@ bool VantraComboBoxBase::eventFilter(QObject *watched, QEvent *event)
         } else if (event->type() == QEvent::Leave) {
             // A press followed by leaving the list is no choice.
             mPressedIndex = -1;
-        } else if (event->type() == QEvent::Hide) {
+        } else if (event->type() == QEvent::Hide && qobject_cast<QAbstractItemView *>(watched) != nullptr) {
+            // A list that is replaced while it is open hides as it is destroyed, when it is only a widget.
             freezeHighlight();
         }
     }
