@@ -23,8 +23,8 @@ fetch_sources() {
     (cd "$work" && apt-get "${options[@]}" source -qq "qt6-base=$version")
 }
 
-# The header of tablets, wintab.h, is not among Debian's sources. OpenGL that is chosen at run time does not go away with
-# OpenGL itself.
+# The header of tablets, wintab.h, is not among Debian's sources. Turning OpenGL off
+# leaves code that chooses its library at run time, which then doesn't compile.
 leave_out_features() {
     local platforms=$1/src/plugins/platforms
     sed -i -E 's/QT_CONFIG\((tabletevent|dynamicgl)\)/0/' "$platforms"/windows/*.{h,cpp} "$platforms"/direct2d/*.{h,cpp}

@@ -34,7 +34,7 @@ cmake --preset windows -DCMAKE_PREFIX_PATH="$qt" -DQT_HOST_PATH=/usr \
     -DVTWIDGETS_WERROR="${VTWIDGETS_WERROR:-OFF}"
 cmake --build --preset windows
 
-# What a program needs at its side on a machine without a compiler.
+# The libraries that a program needs on a machine without a compiler.
 for library in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
     cp -u "$($compiler -print-file-name=$library)" "$build/bin"
 done
@@ -45,7 +45,7 @@ mkdir -p "$build/bin/platforms" "$build/bin/imageformats" "$build/bin/styles"
 cp -u "$qt"/plugins/platforms/{qwindows,qoffscreen,qminimal}.dll "$build/bin/platforms"
 cp -u "$qt"/plugins/imageformats/*.dll "$build/bin/imageformats"
 
-# One display for everything: Wine wants one for its windows, and the offscreen tests don't mind.
+# Wine needs a display for its own windows, also while tests run offscreen.
 in_display() {
     xvfb-run -a -s '-screen 0 1600x1200x24' "$@"
 }

@@ -44,8 +44,8 @@ public:
     BackgroundStyle backgroundStyle() const { return mBackgroundStyle; }
     void setBackgroundStyle(BackgroundStyle inStyle);
 
-    // What stands for the text and the icon while the current index is -1, each for itself; an empty text and
-    // a null icon, the defaults, stand for nothing. A change shows with the next paint. These are not the
+    // The text and the icon that are shown while the current index is -1. An empty text and a null icon, the
+    // defaults, show nothing. A change shows with the next paint. These are not the
     // properties of the same names in QComboBox, which are not used.
     QString placeholderText() const { return mPlaceholderText; }
     void setPlaceholderText(const QString &inText) { mPlaceholderText = inText; }

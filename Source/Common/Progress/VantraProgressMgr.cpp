@@ -445,7 +445,7 @@ void VantraProgressMgr::reactivate(QPointer<QWidget> &ioWidget)
 void VantraProgressMgr::reactivateMainWindow(QWidget *&ioWidget)
 {
     QWidget *target = ioWidget != nullptr ? ioWidget : VantraMainWindow::activeWindow();
-    // A window takes its manager with it, and is none that could come forward then.
+    // A window that is being destroyed takes its manager with it and can't come forward.
     if (target == nullptr || (mGoing && target == parent())) {
         return;
     }

@@ -146,8 +146,8 @@ public:
     // message, so at type 0 this may be half a second late. False again after the end.
     bool canceled() const { return mCanceled; }
 
-    // The calls of the progress object for those who have the manager at hand; each returns 0, or the reason
-    // to stop. Without an operation they do nothing and return 0. inStageCount is the number of steps,
+    // The calls of the progress object for callers that have the manager. Each returns 0, or the reason to
+    // stop. Without an operation they do nothing and return 0. inStageCount is the number of steps,
     // inValue the current one, from 0 on.
     int beginStage(int inStage, const QString &inName, int inStageCount);
     int endStage();

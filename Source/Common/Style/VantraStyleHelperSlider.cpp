@@ -39,7 +39,7 @@ void VantraStyleHelperSlider::drawGroove(const VantraStyleOptionSlider &sliderOp
     painter->setBrush(mTheme->sliderGrooveBrush(option, grooveRect));
     painter->setPen(Qt::NoPen);
 
-    // The widget's height, not the option's, sets the inset; without a widget the option's stands in.
+    // The widget's height, not the option's, sets the inset; without a widget the option's does.
     const double height = widget != nullptr ? widget->rect().height() : grooveRect.height();
     const double inset = height * 0.5 - mTheme->grooveThickness() * 0.5;
     const QRectF adjRect = grooveRect.adjusted(0.5, inset, -0.5, -inset);

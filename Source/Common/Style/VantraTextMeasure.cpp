@@ -15,7 +15,7 @@ namespace {
 // Each text has one place, which the next text of the same place takes over.
 constexpr std::size_t kPlaces = 256;
 
-// More texts than this are measured anew.
+// More texts than this are measured again.
 constexpr qsizetype kRows = 16384;
 
 // Between two alternatives of different length in one text; Qt chooses among them.

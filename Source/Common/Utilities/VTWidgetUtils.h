@@ -21,7 +21,7 @@ class QScreen;
 class QWidget;
 
 // The icon of the running program, inSize logical pixels wide and high, with the device pixel ratio set; -1
-// stands for the system's ratio. On Windows the program's own resource "IDI_ICON1", on other systems the
+// is the system's ratio. On Windows the program's own resource "IDI_ICON1", on other systems the
 // application's window icon. A null image when there is none.
 VTWIDGETSLITE_EXPORT QImage VTWidgetsGetAppIconAsImage(int inSize, int inRatio);
 
